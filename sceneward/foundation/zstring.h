@@ -1,0 +1,271 @@
+#pragma once
+// ZString, the library's one text type.
+//
+// A string holds its text in one of two forms: narrow, as bytes in the
+// process's multibyte encoding (whatever the host's C locale makes of them),
+// or wide, as 16-bit code units. One form is the authority; the other member
+// is scratch space that each view of that form rewrites from the authority.
+// A string may also borrow a caller's text without copying it, or hand out a
+// buffer of its own for the caller to write into.
+//
+// Lengths, indices and comparisons count bytes while the string is narrow and
+// units while it is wide; there is no surrogate logic. Every view is `const`
+// yet may rewrite the object, so a string is not safe to read from two
+// threads at once. Pointers from a view stay valid until the next non-const
+// operation or the next view of the same form.
+//
+// Copies never share a borrowed pointer and always go through the
+// 0-terminated view of the source, so an embedded 0 cuts a copy short.
+// There is deliberately no move constructor: a temporary is copied.
+#include <cstdint>
+#include <string>
+
+#include "platform/wide_char.h"
+
+class ZString {
+ public:
+  // Construction. A length of -1 means "up to the first 0"; other lengths
+  // are taken as they stand (see CopyFrom).
+
+  // The empty narrow string.
+  ZString();
+  // One narrow byte; a 0 byte gives a string of length 1.
+  ZString(char c);
+  // One wide unit; the string is wide and has length 1.
+  ZString(WideChar c);
+  // The number printed by "%d", "%ld", "%f" (the float widened), "%lf" or
+  // "%lld" under the current C locale, so the decimal point follows the
+  // locale. Always narrow.
+  ZString(int value);
+  ZString(long value);
+  ZString(float value);
+  ZString(double value);
+  ZString(long long value);
+  // CopyFrom of the text; a null pointer gives the empty string in the
+  // pointer's form.
+  ZString(const char* text, int len = -1);
+  ZString(const unsigned short* text, int len = -1);
+  ZString(const WideChar* text, int len = -1);
+  // Text of one 32-bit element per character; wide (see CopyFrom).
+  ZString(const int* text, int len = -1);
+  // CopyFrom of the standard string's character data.
+  ZString(const std::string& text, int len = -1);
+  ZString(const WideString& text, int len = -1);
+  // CopyFrom(other, len); with the default length, the copy constructor.
+  ZString(const ZString& other, int len = -1);
+  // Frees an owned buffer from GetBuffer8/GetBuffer16; a borrowed text and
+  // arrays from GetAsInts are left to their owners.
+  ~ZString();
+
+  // CopyFrom(other, -1); assigning a string to itself keeps its text.
+  ZString& operator=(const ZString& other);
+
+  // Assignment. Each ends any borrowing and frees an owned buffer, but
+  // reads `p` first, so `p` may point into this string's own text.
+
+  // Makes the string narrow. A null `p` or a negative `len` takes `p` up to
+  // its first 0 (null as ""); otherwise exactly `len` bytes are taken,
+  // embedded 0s included, however long the text at `p` really is.
+  void CopyFrom(const char* p, int len = -1);
+  // The same operation: the bytes are taken as they are, and are narrow text
+  // like any other.
+  void CopyFromUTF8(const char* p, int len = -1);
+  // Makes the string wide, with the same rules in units.
+  void CopyFrom(const WideChar* p, int len = -1);
+  void CopyFrom(const unsigned short* p, int len = -1);
+  // Makes the string wide from the low 16 bits of each 32-bit element. A
+  // negative `len` counts the elements before the first 0; null is "".
+  void CopyFrom(const int* p, int len = -1);
+  // Takes `s` through its 0-terminated view, keeping its form. A `len` from
+  // 0 to below s.GetLength() copies s.Mid(0, len) instead.
+  void CopyFrom(const ZString& s, int len = -1);
+
+  // Borrows `p` without copying: the caller keeps it alive and unchanged in
+  // place until the string next folds it in (ForceReferenceIntoCopy and
+  // every operation that edits or searches). Changes the caller makes
+  // before that show through. A null `p` gives the empty string in the
+  // pointer's form. `p` must not point into this string.
+  void ReferenceFrom(const char* p);
+  void ReferenceFrom(const WideChar* p);
+  void ReferenceFrom(const unsigned short* p);
+  // Always copies, as CopyFrom(p, -1).
+  void ReferenceFrom(const int* p);
+  // Borrows what `s` borrows, if `s` borrows; otherwise copies `s`.
+  void ReferenceFrom(const ZString& s);
+
+  // Makes the string the empty narrow string, whatever its form was.
+  void Empty();
+
+  // Takes a borrowed text or an owned buffer into the members, ending the
+  // borrowing (the owner's text is no longer read) or freeing the buffer
+  // (the caller's pointer to it dies). Returns false if there was none.
+  bool ForceReferenceIntoCopy() const;
+
+  // Views.
+
+  // The narrow text. A wide string is converted afresh at each call and
+  // stays wide. If a unit cannot be represented in the current C locale,
+  // the previous content of the narrow scratch member comes back instead,
+  // typically "", and nothing reports the failure.
+  const char* GetAsMBCS() const;
+  // GetAsMBCS under another name; there is no UTF-8 encoding of its own.
+  const char* GetAsUTF8() const;
+  operator const char*() const;
+
+  // The wide text. A narrow string is converted afresh at each call and
+  // stays narrow; an invalid byte sequence gives the previous content of
+  // the wide scratch member.
+  const WideChar* GetAsWChar_T() const;
+  const unsigned short* GetAsShorts() const;
+  operator const WideChar*() const;
+  operator const unsigned short*() const;
+
+  // A fresh malloc'd array of GetLength() + 1 elements, one per wide unit,
+  // 0-terminated (positions the wide view does not reach are 0). The
+  // string forgets the array at once: the caller must free() it, and it
+  // stays readable after the string has changed or died.
+  const int* GetAsInts() const;
+  operator const int*() const;
+
+  // The narrow text with each wide unit of 128 or above replaced by
+  // `replacement`; a narrow string comes back unfiltered. The string stays
+  // wide. A wide string answers from its wide member as it stands, so one
+  // that borrows wide text or has a wide buffer open must be folded in
+  // first (ForceReferenceIntoCopy), or it answers from stale content.
+  const char* GetAsASCII(char replacement) const;
+
+  // Folds in any borrowed text, then the narrow view as a standard string.
+  const std::string& GetAsSTLString() const;
+  operator const std::string&() const;
+  // Folds in any borrowed text, then the wide view as a standard string.
+  const WideString& GetAsSTLWString() const;
+  operator const WideString&() const;
+  // The wide member's data as it stands: no conversion, and a borrowed text
+  // or open buffer is not looked at.
+  const WideChar* wstring_to_wchart_t() const;
+
+  // State and size.
+
+  // Bytes while narrow, units while wide. A borrowed text or an open buffer
+  // is measured live, up to its first 0.
+  int GetLength() const;
+  // GetLength() is 0.
+  bool IsEmpty() const;
+  // The wide form is the authority.
+  bool IsUnicode() const;
+  // True only for a wide string with a unit of 128 or above.
+  bool RequiresUnicode() const;
+  // Makes a narrow string wide, with its converted text; a wide string is
+  // left alone.
+  void ForceToUnicode();
+
+  // Element access.
+
+  // The element at `i`, which must be at most GetLength(). A narrow byte is
+  // sign-extended, so 0xE9 comes back as 0xFFE9: it is a byte, not a
+  // character.
+  WideChar GetAt(unsigned i) const;
+  // Stores `c` at `i`; an `i` not below GetLength() does nothing. Storing a
+  // unit of 128 or above into a narrow string first makes the whole string
+  // wide, after which `i` counts units: if the wide text is shorter than the
+  // narrow one was, an `i` beyond it stores nothing.
+  void SetAt(unsigned i, WideChar c);
+
+  // A malloc'd buffer of at least max(minChars, GetLength()) characters
+  // plus a terminator, holding the current text, that the caller writes
+  // into; the string becomes narrow (GetBuffer8) or wide (the others) and
+  // measures the buffer live. There is no release call: the string frees
+  // the buffer at the first operation that folds it in, and the caller's
+  // pointer dies there.
+  char* GetBuffer8(unsigned minChars);
+  WideChar* GetBuffer16(unsigned minChars);
+  WideChar* GetBufferT(unsigned minChars);
+
+  // Loads string resource `id` of `module`, narrow (LoadString8) or wide
+  // (the others), up to 1023 characters. Returns true if it was found and
+  // not empty; otherwise the string is empty in the form of the call.
+  bool LoadString8(unsigned long id, void* module);
+  bool LoadString16(unsigned long id, void* module);
+  bool LoadStringW(unsigned long id, void* module);
+
+  // Comparison.
+
+  // Negative, 0 or positive as this string sorts before, with or after
+  // `other`; only the sign is meaningful. Two narrow strings compare as
+  // unsigned bytes; otherwise both wide views compare as unsigned units, so
+  // a narrow and a wide string are equal only if conversion makes them the
+  // same units. A shorter string that is a prefix of the other sorts first.
+  // Folds in this string's borrowed text. The bool is ignored.
+  int Compare(const ZString& other, bool ignored = false) const;
+  // Compare on copies taken through MakeLower: only the C library's
+  // single-byte case mapping applies. The bool is ignored.
+  int CompareNoCase(const ZString& other, bool ignored = false) const;
+
+  // All by Compare. The overloads for character pointers let a literal be
+  // compared without stating its conversion.
+#define SW_ZSTRING_COMPARISON(op)                                                             \
+  bool operator op(const ZString& other) const { return Compare(other) op 0; }               \
+  bool operator op(const char* other) const { return Compare(ZString(other)) op 0; }         \
+  bool operator op(const WideChar* other) const { return Compare(ZString(other)) op 0; }
+  SW_ZSTRING_COMPARISON(==)
+  SW_ZSTRING_COMPARISON(!=)
+  SW_ZSTRING_COMPARISON(<)
+  SW_ZSTRING_COMPARISON(>)
+  SW_ZSTRING_COMPARISON(<=)
+  SW_ZSTRING_COMPARISON(>=)
+#undef SW_ZSTRING_COMPARISON
+
+  // Concatenation.
+
+  // Appends `other`. An empty `other` changes nothing; an empty string
+  // becomes a copy of `other`, in its form. Otherwise the result is narrow
+  // only if both are narrow: a narrow string that gets a wide tail becomes
+  // wide.
+  const ZString& operator+=(const ZString& other);
+  // A copy of this string with `other` appended by +=.
+  ZString operator+(const ZString& other) const;
+
+  // Cutting and case.
+
+  // The min(GetLength() - start, count) characters from `start`, in this
+  // string's form; a `start` at or beyond the end gives the empty narrow
+  // string, whatever the form.
+  ZString Mid(unsigned start, unsigned count) const;
+  // Mid(start, GetLength() - start).
+  ZString Mid(unsigned start) const;
+
+  // Changes case element by element through the C library's toupper and
+  // tolower under the current locale: each byte while narrow, each unit
+  // while wide. Only ASCII, and in some locales the values below 256,
+  // change; there is no wide case mapping.
+  void MakeUpper();
+  void MakeLower();
+
+ private:
+  // refFlags: how refPtr is read. Bit 1 narrow text, bit 2 wide text, bit 4
+  // owned (to be freed). 0 means refPtr carries no text.
+  static constexpr uint32_t kRefNarrow = 1;
+  static constexpr uint32_t kRefWide = 2;
+  static constexpr uint32_t kRefOwned = 4;
+
+  // The bodies of the CopyFrom forms, callable from const views that fold a
+  // reference in.
+  void AssignNarrow(const char* p, int len) const;
+  void AssignWide(const WideChar* p, int len) const;
+  // Sets the borrowing state; both members are emptied.
+  void Borrow(void* p, uint32_t flags) const;
+  // Frees an owned buffer, then forgets refPtr.
+  void ClearPtr() const;
+  // The wide text that is current: the borrowed or owned wide text, or the
+  // wide member.
+  const WideChar* CurrentWide() const;
+  // Changes case of every element with `map` (toupper or tolower).
+  void MapCase(int (*map)(int));
+
+  // The views rewrite all of these, hence mutable.
+  mutable std::string narrowText;  // the text when narrow; else scratch
+  mutable WideString wideText;     // the text when wide; else scratch
+  mutable bool narrowIsCurrent = true;
+  mutable uint32_t refFlags = 0;
+  mutable void* refPtr = nullptr;  // borrowed or owned text, or null
+};
