@@ -1,6 +1,7 @@
 #include "host/host_thread_entry.h"
 
 #include "host/notify_window.h"
+#include "sceneward/foundation/event.h"
 #include "sceneward/frame/zelmo_sceneward.h"
 
 namespace host {
@@ -8,8 +9,13 @@ namespace host {
 void* HostAppContext::GetNotifyWindow() { return window_.Handle(); }
 
 void HostEventTarget::HandleEvent(Event* event) {
-  lastEvent_.store(event);
-  eventCount_.fetch_add(1);
+  std::lock_guard<std::mutex> lock(mutex_);
+  events_.push_back(ReceivedEvent{*event->GetType(), event->GetValue()});
+}
+
+std::vector<ReceivedEvent> HostEventTarget::Events() const {
+  std::lock_guard<std::mutex> lock(mutex_);
+  return events_;
 }
 
 void HostMessageSink::ReportMessage(int code, const ZString& text) {

@@ -43,6 +43,14 @@ class HostAppContext final : public ZelmoAppContext {
   bool usesEffectiveThread_ = false;
 };
 
+// What an event said: the value its type pointer points at, and its value.
+// Events handed over synchronously live on the sender's stack, so the
+// target keeps copies.
+struct ReceivedEvent {
+  uint32_t type;
+  uint64_t value;
+};
+
 class HostEventTarget final : public ZelmoEventTarget {
  public:
   void Unused1() override {}
@@ -50,12 +58,12 @@ class HostEventTarget final : public ZelmoEventTarget {
   void Unused3() override {}
   void HandleEvent(Event* event) override;
 
-  int EventCount() const { return eventCount_.load(); }
-  Event* LastEvent() const { return lastEvent_.load(); }
+  // Everything received so far, oldest first.
+  std::vector<ReceivedEvent> Events() const;
 
  private:
-  std::atomic<int> eventCount_{0};
-  std::atomic<Event*> lastEvent_{nullptr};
+  mutable std::mutex mutex_;
+  std::vector<ReceivedEvent> events_;
 };
 
 struct ReportedMessage {

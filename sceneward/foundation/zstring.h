@@ -17,6 +17,7 @@
 // Copies never share a borrowed pointer and always go through the
 // 0-terminated view of the source, so an embedded 0 cuts a copy short.
 // There is deliberately no move constructor: a temporary is copied.
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -171,9 +172,10 @@ class ZString {
   // narrow one was, an `i` beyond it stores nothing.
   void SetAt(unsigned i, WideChar c);
 
-  // A malloc'd buffer of at least max(minChars, GetLength()) characters
-  // plus a terminator, holding the current text, that the caller writes
-  // into; the string becomes narrow (GetBuffer8) or wide (the others) and
+  // A malloc'd buffer of at least max(minChars, GetLength()) characters,
+  // and never fewer than the current text takes in the buffer's form, plus
+  // a terminator. It holds the current text for the caller to write over;
+  // the string becomes narrow (GetBuffer8) or wide (the others) and
   // measures the buffer live. There is no release call: the string frees
   // the buffer at the first operation that folds it in, and the caller's
   // pointer dies there.
@@ -201,8 +203,9 @@ class ZString {
   // single-byte case mapping applies. The bool is ignored.
   int CompareNoCase(const ZString& other, bool ignored = false) const;
 
-  // All by Compare. The overloads for character pointers let a literal be
-  // compared without stating its conversion.
+  // All by Compare. The overloads for character pointers are there because
+  // a literal would otherwise match the built-in pointer comparison (through
+  // this class's conversions) just as well as these, which is ambiguous.
 #define SW_ZSTRING_COMPARISON(op)                                                             \
   bool operator op(const ZString& other) const { return Compare(other) op 0; }               \
   bool operator op(const char* other) const { return Compare(ZString(other)) op 0; }         \
@@ -259,6 +262,11 @@ class ZString {
   // The wide text that is current: the borrowed or owned wide text, or the
   // wide member.
   const WideChar* CurrentWide() const;
+  // Copies `length` elements of `text` and a terminator into a fresh
+  // malloc'd buffer of at least max(minChars, GetLength(), length) elements
+  // plus one, which this string then owns as its text in `form`.
+  void* OpenBuffer(const void* text, size_t length, unsigned minChars, size_t elementSize,
+                   uint32_t form);
   // Changes case of every element with `map` (toupper or tolower).
   void MapCase(int (*map)(int));
 

@@ -116,7 +116,7 @@ TEST_F(ThreadRegistryTest, LockingFlagDecidesWhetherManagerLookupsWaitForTheRegi
 
   // Locked registry: the lookup waits for the holder.
   host.SetLockingEnabled(true);
-  auto lookup = std::async(std::launch::async, [] { return ManagerForThread(kOtherThread); });
+  auto lookup = std::async(std::launch::async, [] { return CurrentManager(); });
   EXPECT_EQ(lookup.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
   release.set_value();
   holder.join();

@@ -37,9 +37,12 @@ void PrintSegmentTree(const std::vector<BuiltSegment>& segments, std::FILE* out)
     ZString path;
     CurrentManager()->HC_Show_Segment(segment.key, path);
     std::fprintf(out, "%s%s\n", indent.c_str(), path.GetAsMBCS());
+    // Showing options that were never set is an error, so ask their length first.
     ZString options;
+    int length = 0;
     CurrentManager()->HC_Open_Segment_By_Key(segment.key);
-    CurrentManager()->HC_Show_User_Options(options);
+    CurrentManager()->HC_Show_User_Options_Length(&length);
+    if (length > 0) CurrentManager()->HC_Show_User_Options(options);
     CurrentManager()->HC_Close_Segment();
     if (!options.IsEmpty()) std::fprintf(out, "%s  user options: %s\n", indent.c_str(), options.GetAsMBCS());
     for (long long key : segment.geometry) PrintGeometry(key, indent, out);

@@ -1,0 +1,30 @@
+#pragma once
+// The process's engine state: one database for all threads, guarded by one
+// reader/writer lock (show calls share it, changes take it alone), and one
+// open-segment stack per thread.
+#include <shared_mutex>
+
+#include "database/database.h"
+#include "session/open_stack.h"
+
+namespace graphics {
+
+class Engine {
+ public:
+  static Engine& Instance();
+
+  std::shared_mutex& mutex() { return mutex_; }
+  Database& database() { return database_; }
+
+  // The calling thread's open segments; frames left from before a reset are
+  // dropped first. Call with the lock held.
+  OpenStack& ThisThreadStack();
+
+ private:
+  Engine() = default;
+
+  std::shared_mutex mutex_;
+  Database database_;
+};
+
+}  // namespace graphics

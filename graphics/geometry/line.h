@@ -1,0 +1,21 @@
+#pragma once
+#include "geometry/geometry.h"
+#include "math/point.h"
+
+namespace graphics {
+
+class Line final : public Geometry {
+ public:
+  Line(const Point& start, const Point& end) : Geometry(GeometryType::kLine), start_(start), end_(end) {}
+
+  const Point& start() const { return start_; }
+  const Point& end() const { return end_; }
+
+  Bounds ComputeBounds() const override;
+
+ private:
+  Point start_;
+  Point end_;
+};
+
+}  // namespace graphics

@@ -1,0 +1,3 @@
+#include "sceneward/frame/zelmo_sceneward_interface.h"
+
+ZelmoScenewardInterface::~ZelmoScenewardInterface() = default;
