@@ -90,12 +90,4 @@ TEST(AddInTest, ShaderHooksFallBackToTheCallersManager) {
   EXPECT_EQ(GetShaderHooks(platform::CurrentThreadId()), &hooks);
 }
 
-TEST(AddInTest, FreshManagerHasNoStreamLockOnAnyThread) {
-  ZelmoSceneward manager;
-  EXPECT_FALSE(manager.HasStreamLock());
-  bool onOtherThread = true;
-  std::thread([&] { onOtherThread = manager.HasStreamLock(); }).join();
-  EXPECT_FALSE(onOtherThread);
-}
-
 }  // namespace
