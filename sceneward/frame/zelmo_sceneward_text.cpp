@@ -1,6 +1,7 @@
 // The operations whose text needs more than a buffer or a view: the choice
 // between the engine's narrow and 16-bit forms, and outputs whose length is
 // asked for first.
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -15,9 +16,10 @@ namespace {
 constexpr char kUnicodeEncoding[] = "unicode";
 
 // A zeroed work buffer for a 16-bit result of `length` units and its
-// terminator. The allocation throws on failure, leaving the engine as it was.
+// terminator; a negative length (a failed query) gives the terminator alone.
+// The allocation throws on failure, leaving the engine as it was.
 std::vector<unsigned short> WideResultBuffer(int length) {
-  return std::vector<unsigned short>(static_cast<std::size_t>(length) + 1);
+  return std::vector<unsigned short>(static_cast<std::size_t>(std::max(length, 0)) + 1);
 }
 
 }  // namespace
