@@ -1,7 +1,12 @@
 // Opening, closing, naming and deleting segments.
+#include <string>
+#include <vector>
+
 #include "api/arguments.h"
 #include "api/call.h"
 #include "hc/hc.h"
+#include "search/segment_spec.h"
+#include "strings/text.h"
 
 using graphics::Database;
 using graphics::Done;
@@ -86,16 +91,30 @@ extern "C" long long HC_Show_Owner_By_Key(long long key, char* owner) {
   });
 }
 
-// Wildcards and lists are refused for now: the name must designate one
-// segment.
+// Wildcards and lists delete every match; open ones stay and are reported.
 extern "C" void HC_Delete_Segment(char const* segment) {
   Run(Access::kWrite, __func__, [&](Session& session) -> Status {
     auto required = Require(segment, "segment name");
     if (!required.ok()) return required.error();
-    auto found = session.FindSegment(segment);
-    if (!found.ok()) return found.error();
-    if (found.value() == nullptr) return Done{};
-    return session.database().Delete(*found.value());
+    const std::string_view trimmed = graphics::TrimBlanks(segment);
+    const bool relative = trimmed.empty() || (trimmed.front() != '/' && trimmed.front() != '?');
+    if (relative && session.open_stack().top_is_dead()) return Done{};
+    auto matched = graphics::MatchSegments(session.database(), session.current(), segment);
+    if (!matched.ok()) return matched.error();
+    if (matched.value().empty()) {
+      return graphics::Error(graphics::errc::kNoSuchSegment, "no segment '" + std::string(segment) + "'");
+    }
+    // By key: deleting one match may already have taken another below it.
+    std::vector<long long> keys;
+    for (const Segment* found : matched.value()) keys.push_back(found->key());
+    Status outcome = Done{};
+    for (long long key : keys) {
+      if (graphics::Entity* item = session.database().Find(key)) {
+        auto deleted = session.database().Delete(*item);
+        if (!deleted.ok()) outcome = deleted;
+      }
+    }
+    return outcome;
   });
 }
 

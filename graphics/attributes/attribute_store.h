@@ -7,13 +7,24 @@
 #include <vector>
 
 #include "attributes/attribute_kind.h"
+#include "attributes/camera.h"
+#include "attributes/color.h"
 #include "attributes/modelling_matrix.h"
+#include "attributes/regions.h"
+#include "attributes/textures.h"
+#include "attributes/user_data.h"
 #include "attributes/user_options.h"
+#include "attributes/value_attributes.h"
 
 namespace graphics {
 
 // Alternatives in AttributeKind order, so a value's index is its kind.
-using AttributeValue = std::variant<ModellingMatrix, UserOptions>;
+using AttributeValue =
+    std::variant<ModellingMatrix, UserOptions, Visibility, Selectability, Heuristics, RenderingOptions, DriverOptions,
+                 TextFont, Conditions, Callbacks, LineWeight, EdgeWeight, MarkerSize, LinePattern, EdgePattern,
+                 MarkerSymbol, Handedness, TextAlignment, WindowFrame, WindowPattern, TextPath, TextSpacing, Window,
+                 TextureMatrix, Camera, UnicodeOptions, UserIndices, UserValue,
+                 ColorSettings, ColorMap, LocalTextures, ClipRegion, TextRegion>;
 
 class AttributeStore {
  public:
@@ -42,6 +53,12 @@ class AttributeStore {
   bool Remove(AttributeKind kind);
   bool Has(AttributeKind kind) const { return Locate(kind) != values_.end(); }
   bool empty() const { return values_.empty(); }
+
+  // The option settings of an option-list kind, or null when absent or the
+  // kind is not an option list.
+  const OptionSettings* FindOptions(AttributeKind kind) const;
+  // As above, added empty when absent; the kind must be an option list.
+  OptionSettings& FindOrAddOptions(AttributeKind kind);
 
  private:
   using Values = std::vector<AttributeValue>;

@@ -13,6 +13,8 @@ namespace {
 // An expansion may name another alias; a cycle must end somewhere.
 constexpr int kMaxExpansions = 16;
 
+constexpr size_t kPredefinedCount = 3;
+
 }  // namespace
 
 AliasTable::AliasTable()
@@ -38,6 +40,51 @@ Result<std::string> AliasTable::Expand(std::string_view path) const {
     expanded = found->second + expanded.substr(end);
   }
   return Error(errc::kBadName, "aliases in '" + std::string(path) + "' expand without end");
+}
+
+Result<std::string> AliasTable::Normalize(std::string_view name) {
+  const std::string_view trimmed = TrimBlanks(name);
+  if (trimmed.size() < 2 || trimmed.front() != '?' || trimmed.find('/') != std::string_view::npos) {
+    return Error(errc::kBadName, "bad alias name '" + std::string(name) + "'");
+  }
+  return NormalizeWord(RemoveQuotes(trimmed));
+}
+
+Status AliasTable::Define(std::string_view name, std::string_view expansion) {
+  auto normal = Normalize(name);
+  if (!normal.ok()) return normal.error();
+  auto found = std::find_if(aliases_.begin(), aliases_.end(), [&](const auto& a) { return a.first == normal.value(); });
+  if (found - aliases_.begin() < static_cast<std::ptrdiff_t>(kPredefinedCount)) {
+    return Error(errc::kBadName, "'" + normal.value() + "' is predefined");
+  }
+  std::string text(TrimBlanks(expansion));
+  if (found != aliases_.end()) {
+    found->second = std::move(text);
+  } else {
+    aliases_.emplace_back(normal.value(), std::move(text));
+  }
+  return Done{};
+}
+
+Status AliasTable::UnDefine(std::string_view name) {
+  auto normal = Normalize(name);
+  if (!normal.ok()) return normal.error();
+  auto found = std::find_if(aliases_.begin(), aliases_.end(), [&](const auto& a) { return a.first == normal.value(); });
+  if (found == aliases_.end()) return Error(errc::kBadName, "unknown alias '" + normal.value() + "'");
+  if (found - aliases_.begin() < static_cast<std::ptrdiff_t>(kPredefinedCount)) {
+    return Error(errc::kBadName, "'" + normal.value() + "' is predefined");
+  }
+  aliases_.erase(found);
+  return Done{};
+}
+
+std::optional<std::string> AliasTable::Show(std::string_view name) const {
+  auto normal = Normalize(name);
+  if (!normal.ok()) return std::nullopt;
+  for (const auto& [alias, expansion] : aliases_) {
+    if (alias == normal.value()) return ToLowerAscii(expansion);
+  }
+  return std::nullopt;
 }
 
 }  // namespace graphics

@@ -1,7 +1,8 @@
 #pragma once
 // Path aliases ("?picture"): a name standing for the start of a path,
-// replaced literally when a path is read. Holds the predefined ones now;
-// HC_Define_Alias will add to the same table.
+// replaced literally when a path is read. The predefined ones cannot be
+// undefined; the program adds its own.
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -20,8 +21,19 @@ class AliasTable {
   // an expansion may start with another alias); unchanged without one.
   Result<std::string> Expand(std::string_view path) const;
 
+  // Defines or redefines `name` ("?" and a name) as `expansion`, kept as
+  // given with outer blanks trimmed.
+  Status Define(std::string_view name, std::string_view expansion);
+  // Refused for the predefined aliases and unknown names.
+  Status UnDefine(std::string_view name);
+  // The expansion in lower case; nothing for an unknown name.
+  std::optional<std::string> Show(std::string_view name) const;
+
  private:
-  // Names are stored normalised, "?" included.
+  // The stored form of an alias name, or why it is not one.
+  static Result<std::string> Normalize(std::string_view name);
+
+  // Names are stored normalised, "?" included; the predefined come first.
   std::vector<std::pair<std::string, std::string>> aliases_;
 };
 

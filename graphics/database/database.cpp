@@ -1,6 +1,7 @@
 #include "database/database.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <vector>
 
 #include "database/path_resolver.h"
@@ -23,6 +24,24 @@ bool SubtreeIsOpen(const Segment& top) {
   return false;
 }
 
+}  // namespace
+
+bool ReachesSegment(Segment& from, const Segment& goal) {
+  std::vector<Segment*> pending{&from};
+  std::unordered_set<const Segment*> seen;
+  while (!pending.empty()) {
+    Segment* segment = pending.back();
+    pending.pop_back();
+    if (segment == &goal) return true;
+    if (!seen.insert(segment).second) continue;
+    for (Segment& child : segment->children()) pending.push_back(&child);
+    for (const Reference& include : segment->includes()) pending.push_back(&include.target());
+  }
+  return false;
+}
+
+namespace {
+
 Error InvalidKey(long long key) { return Error(errc::kInvalidKey, "invalid key " + std::to_string(key)); }
 
 Error WrongKind(const Entity& item, std::string_view expected) {
@@ -36,28 +55,66 @@ Database::Database() { CreatePredefined(); }
 
 void Database::CreatePredefined() {
   root_ = std::make_unique<Segment>("");
-  root_->key_ = keys_.Issue(*root_);
+  Register(*root_);
   for (std::string_view path : {kIncludeLibraryPath, kStyleLibraryPath, kPicturePath}) {
     // Absolute paths of plain names always resolve.
     static_cast<void>(ResolvePath(*this, nullptr, path, Creation::kCreateMissing));
   }
 }
 
-Result<Entity*> Database::FindItem(long long key) const {
+Entity* Database::Find(long long key) const {
+  if (key >= 0) {
+    auto found = user_keys_.find(key);
+    return found == user_keys_.end() ? nullptr : found->second;
+  }
   Entity* item = keys_.Find(key);
+  // A renumbered item no longer answers to its library key.
+  return item != nullptr && item->key_ == key ? item : nullptr;
+}
+
+void Database::Register(Entity& item) {
+  item.key_ = item.library_key_ = keys_.Issue(item);
+}
+
+void Database::Retire(const Entity& item) {
+  keys_.Retire(item.library_key_);
+  if (item.key_ != item.library_key_) user_keys_.erase(item.key_);
+}
+
+Result<long long> Database::Renumber(Entity& item, long long new_key, KeyScope scope) {
+  if (new_key == -1) {
+    user_keys_.erase(item.key_);
+    item.key_ = item.library_key_;
+    item.scope_ = KeyScope::kLibrary;
+    return item.key_;
+  }
+  if (new_key < 0) return Error(errc::kOutOfRange, "a program's key must be 0 or more, or -1 to restore");
+  auto taken = user_keys_.find(new_key);
+  if (taken != user_keys_.end() && taken->second != &item) {
+    return Error(errc::kOutOfRange, "key " + std::to_string(new_key) + " is in use");
+  }
+  if (item.key_ != item.library_key_) user_keys_.erase(item.key_);
+  user_keys_[new_key] = &item;
+  item.key_ = new_key;
+  item.scope_ = scope;
+  return new_key;
+}
+
+Result<Entity*> Database::FindItem(long long key) const {
+  Entity* item = Find(key);
   if (item == nullptr) return InvalidKey(key);
   return item;
 }
 
 Result<Segment*> Database::FindSegment(long long key) const {
-  Entity* item = keys_.Find(key);
+  Entity* item = Find(key);
   if (item == nullptr) return InvalidKey(key);
   if (item->kind() != EntityKind::kSegment) return WrongKind(*item, "segment");
   return static_cast<Segment*>(item);
 }
 
 Result<Geometry*> Database::FindGeometry(long long key, GeometryType type) const {
-  Entity* item = keys_.Find(key);
+  Entity* item = Find(key);
   if (item == nullptr) return InvalidKey(key);
   if (item->kind() != EntityKind::kGeometry || static_cast<Geometry*>(item)->type() != type) {
     return WrongKind(*item, GeometryTypeWord(type));
@@ -67,20 +124,38 @@ Result<Geometry*> Database::FindGeometry(long long key, GeometryType type) const
 
 Segment& Database::CreateChild(Segment& owner, std::string name) {
   Segment& child = owner.AddChild(std::make_unique<Segment>(std::move(name)));
-  child.key_ = keys_.Issue(child);
+  Register(child);
   return child;
 }
 
 Geometry& Database::Insert(Segment& owner, std::unique_ptr<Geometry> item) {
   Geometry& inserted = owner.AddGeometry(std::move(item));
-  inserted.key_ = keys_.Issue(inserted);
+  Register(inserted);
   return inserted;
+}
+
+Result<Reference*> Database::AddReference(Segment& owner, EntityKind kind, Segment& target, std::string condition) {
+  if (kind == EntityKind::kInclude && ReachesSegment(target, owner)) {
+    return Error(errc::kBadName, "including " + FullPath(target) + " in " + FullPath(owner) +
+                                     " would make the segment contain itself");
+  }
+  Reference& added = owner.AddReference(std::make_unique<Reference>(kind, target, std::move(condition)));
+  Register(added);
+  return &added;
 }
 
 Status Database::Delete(Entity& item) {
   Segment* owner = item.owner();
+  if (item.kind() == EntityKind::kInclude || item.kind() == EntityKind::kStyle) {
+    Retire(item);
+    owner->RemoveReference(static_cast<Reference&>(item));
+    return Done{};
+  }
   if (item.kind() == EntityKind::kGeometry) {
-    keys_.Retire(item.key());
+    if (static_cast<Geometry&>(item).open_frames() > 0) {
+      return Error(errc::kItemOpen, "the " + std::string(item.TypeWord()) + " is open");
+    }
+    Retire(item);
     owner->RemoveGeometry(static_cast<Geometry&>(item));
     return Done{};
   }
@@ -94,20 +169,35 @@ Status Database::Delete(Entity& item) {
   return Done{};
 }
 
+// References held inside the subtree let go of their targets, and
+// references from outside to segments inside are deleted, so no reference
+// outlives its target.
 void Database::RetireSubtree(Segment& top) {
-  std::vector<Segment*> pending{&top};
-  while (!pending.empty()) {
-    Segment* segment = pending.back();
-    pending.pop_back();
-    keys_.Retire(segment->key());
-    for (const Geometry& item : segment->geometry()) keys_.Retire(item.key());
-    for (Segment& child : segment->children()) pending.push_back(&child);
+  const std::vector<Segment*> subtree = DepthFirst(top);
+  for (Segment* segment : subtree) {
+    for (const OwnedList<Reference>* list : {&segment->includes(), &segment->styles()}) {
+      while (!list->empty()) {
+        Reference& reference = *list->begin();
+        Retire(reference);
+        segment->RemoveReference(reference);
+      }
+    }
+  }
+  for (Segment* segment : subtree) {
+    while (!segment->referrers().empty()) {
+      Reference& reference = *segment->referrers().back();
+      Retire(reference);
+      reference.owner()->RemoveReference(reference);
+    }
+    Retire(*segment);
+    for (const Geometry& item : segment->geometry()) Retire(item);
   }
 }
 
 void Database::Reset() {
   root_.reset();
   keys_.RetireAll();
+  user_keys_.clear();
   aliases_ = AliasTable();
   ++generation_;
   CreatePredefined();

@@ -14,6 +14,12 @@ class OwnedList;
 // Base of every T kept in an OwnedList<T>.
 template <typename T>
 class ListLink {
+ public:
+  ListLink() = default;
+  // A copied member starts outside any list.
+  ListLink(const ListLink&) {}
+  ListLink& operator=(const ListLink&) = delete;
+
  private:
   friend class OwnedList<T>;
   T* prev_ = nullptr;

@@ -40,6 +40,16 @@ std::unique_ptr<Segment> Segment::RemoveChild(Segment& child) {
   return children_.Remove(child);
 }
 
+void Segment::RenameChild(Segment& child, std::string name) {
+  if (!child.anonymous()) children_by_name_.erase(child.name_);
+  child.name_ = std::move(name);
+  if (!child.anonymous()) children_by_name_.emplace(child.name_, &child);
+}
+
+bool Segment::IsEmpty() const {
+  return children_.empty() && geometry_.empty() && includes_.empty() && styles_.empty() && attributes_.empty();
+}
+
 Geometry& Segment::AddGeometry(std::unique_ptr<Geometry> item) {
   item->owner_ = this;
   MarkBoundsDirty();
@@ -52,8 +62,43 @@ std::unique_ptr<Geometry> Segment::RemoveGeometry(Geometry& item) {
   return geometry_.Remove(item);
 }
 
+Reference& Segment::AddReference(std::unique_ptr<Reference> reference) {
+  reference->owner_ = this;
+  reference->target().referrers_.push_back(reference.get());
+  MarkBoundsDirty();
+  return (reference->kind() == EntityKind::kInclude ? includes_ : styles_).PushBack(std::move(reference));
+}
+
+std::unique_ptr<Reference> Segment::RemoveReference(Reference& reference) {
+  std::vector<Reference*>& referrers = reference.target().referrers_;
+  std::erase(referrers, &reference);
+  reference.owner_ = nullptr;
+  MarkBoundsDirty();
+  return (reference.kind() == EntityKind::kInclude ? includes_ : styles_).Remove(reference);
+}
+
+void Segment::BringToFront(Entity& item) {
+  switch (item.kind()) {
+    case EntityKind::kSegment:
+      children_.PushBack(children_.Remove(static_cast<Segment&>(item)));
+      break;
+    case EntityKind::kGeometry:
+      geometry_.PushBack(geometry_.Remove(static_cast<Geometry&>(item)));
+      break;
+    case EntityKind::kInclude:
+      includes_.PushBack(includes_.Remove(static_cast<Reference&>(item)));
+      break;
+    case EntityKind::kStyle:
+      styles_.PushBack(styles_.Remove(static_cast<Reference&>(item)));
+      break;
+  }
+}
+
 AttributeStore& Segment::MutableAttributes() {
   if (owner() != nullptr) owner()->MarkBoundsDirty();
+  for (Reference* referrer : referrers_) {
+    if (referrer->kind() == EntityKind::kInclude) referrer->owner()->MarkBoundsDirty();
+  }
   return attributes_;
 }
 
@@ -61,19 +106,54 @@ const Bounds& Segment::ContentBounds() const {
   if (!bounds_dirty_) return bounds_;
   Bounds bounds;
   for (const Geometry& item : geometry_) bounds.Include(item.ComputeBounds());
-  for (const Segment& child : children_) {
-    const auto* matrix = child.attributes_.Find<ModellingMatrix>();
-    bounds.Include(matrix ? child.ContentBounds().Transformed(matrix->matrix) : child.ContentBounds());
-  }
+  for (const Reference& include : includes_) bounds.Include(include.target().PlacedBounds());
+  for (const Segment& child : children_) bounds.Include(child.PlacedBounds());
   bounds_ = bounds;
   bounds_dirty_ = false;
   return bounds_;
 }
 
-// A dirty segment always has dirty owners, so the walk stops at the first
-// owner already dirty.
+Bounds Segment::PlacedBounds() const {
+  const auto* matrix = attributes_.Find<ModellingMatrix>();
+  return matrix ? ContentBounds().Transformed(matrix->matrix) : ContentBounds();
+}
+
+// Cleaning the cache of the whole subtree first makes the next change
+// anywhere below walk up through this segment, which drops the sphere.
+void Segment::SetExplicitSphere(const BoundingSphere& sphere) {
+  ContentBounds();
+  explicit_sphere_ = sphere;
+}
+
+// A dirty segment always has dirty owners and dirty includers, so the walk
+// stops at the first segment already dirty.
 void Segment::MarkBoundsDirty() {
-  for (Segment* s = this; s != nullptr && !s->bounds_dirty_; s = s->owner()) s->bounds_dirty_ = true;
+  std::vector<Segment*> pending{this};
+  while (!pending.empty()) {
+    Segment* start = pending.back();
+    pending.pop_back();
+    for (Segment* s = start; s != nullptr && !s->bounds_dirty_; s = s->owner()) {
+      s->bounds_dirty_ = true;
+      s->explicit_sphere_.reset();
+      for (Reference* referrer : s->referrers_) {
+        if (referrer->kind() == EntityKind::kInclude) pending.push_back(referrer->owner());
+      }
+    }
+  }
+}
+
+std::vector<Segment*> DepthFirst(Segment& top) {
+  std::vector<Segment*> order;
+  std::vector<Segment*> pending{&top};
+  while (!pending.empty()) {
+    Segment* segment = pending.back();
+    pending.pop_back();
+    order.push_back(segment);
+    std::vector<Segment*> children;
+    for (Segment& child : segment->children()) children.push_back(&child);
+    pending.insert(pending.end(), children.rbegin(), children.rend());
+  }
+  return order;
 }
 
 }  // namespace graphics

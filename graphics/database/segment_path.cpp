@@ -12,6 +12,8 @@ namespace {
 
 constexpr size_t npos = std::string_view::npos;
 
+}  // namespace
+
 // Bytes above 0x7f count as letters, so names in UTF-8 need no quotes.
 bool IsPlainNameChar(char c) {
   const unsigned char u = static_cast<unsigned char>(c);
@@ -19,11 +21,14 @@ bool IsPlainNameChar(char c) {
          IsBlank(c) || c == '#' || c == '+' || c == '-' || c == '$' || c == '_' || c == '.';
 }
 
+namespace {
+
 Error BadName(std::string_view path, std::string_view why) {
   return Error(errc::kBadName, "bad segment name '" + std::string(path) + "': " + std::string(why));
 }
 
-// Splits at "/" outside quotes; quotes are known to close.
+}  // namespace
+
 std::vector<std::string_view> SplitComponents(std::string_view text) {
   std::vector<std::string_view> pieces;
   size_t start = 0;
@@ -39,6 +44,8 @@ std::vector<std::string_view> SplitComponents(std::string_view text) {
   return pieces;
 }
 
+namespace {
+
 Result<PathComponent> ParseKeyReference(std::string_view path, std::string_view digits) {
   uint64_t bits = 0;
   const auto [end, ec] = std::from_chars(digits.data(), digits.data() + digits.size(), bits, 16);
@@ -47,6 +54,8 @@ Result<PathComponent> ParseKeyReference(std::string_view path, std::string_view 
   }
   return PathComponent{PathComponent::Kind::kKey, "", static_cast<long long>(bits)};
 }
+
+}  // namespace
 
 Result<PathComponent> ParseComponent(std::string_view path, std::string_view raw) {
   const std::string_view piece = TrimBlanks(raw);
@@ -78,8 +87,6 @@ Result<PathComponent> ParseComponent(std::string_view path, std::string_view raw
   if (name.empty()) return BadName(path, "empty quoted name");
   return PathComponent{PathComponent::Kind::kName, ToLowerAscii(name), 0};
 }
-
-}  // namespace
 
 Result<SegmentPath> ParseSegmentPath(std::string_view text) {
   for (size_t i = 0; i < text.size(); ++i) {

@@ -26,6 +26,16 @@ struct SegmentPath {
   std::vector<PathComponent> components;
 };
 
+// Whether `c` may stand in a name outside quotes.
+bool IsPlainNameChar(char c);
+
+// Splits at "/" outside quotes; every quote in `text` must close.
+std::vector<std::string_view> SplitComponents(std::string_view text);
+
+// One component of `path` (blanks around it allowed): a name, ".", ".." or
+// "^", or a key reference. Wildcards, lists and "..." are errors.
+Result<PathComponent> ParseComponent(std::string_view path, std::string_view raw);
+
 // `text` must be alias-free (see AliasTable::Expand) and not blank.
 Result<SegmentPath> ParseSegmentPath(std::string_view text);
 

@@ -10,6 +10,7 @@ namespace {
 // A thread's frames, tagged with the database generation they point into.
 struct ThreadFrames {
   OpenStack stack;
+  ThreadSearches searches;
   uint64_t generation = 0;
 
   ThreadFrames() = default;
@@ -33,8 +34,19 @@ Engine& Engine::Instance() {
   return engine;
 }
 
-OpenStack& Engine::ThisThreadStack() {
+namespace {
+
+ThreadFrames& ThisThreadFrames() {
   thread_local ThreadFrames frames;
+  return frames;
+}
+
+}  // namespace
+
+ThreadSearches& Engine::ThisThreadSearches() { return ThisThreadFrames().searches; }
+
+OpenStack& Engine::ThisThreadStack() {
+  ThreadFrames& frames = ThisThreadFrames();
   if (frames.generation != database_.generation()) {
     frames.stack.Abandon();
     frames.generation = database_.generation();

@@ -35,6 +35,10 @@ inline constexpr ErrorCode kBadOptionSyntax{kCategoryOption, 2302};
 inline constexpr ErrorCode kNotSet{kCategoryOption, 2303};
 inline constexpr ErrorCode kOutOfRange{kCategoryRange, 2401};
 inline constexpr ErrorCode kNullArgument{kCategoryRange, 2402};
+inline constexpr ErrorCode kDegenerate{kCategoryGeometry, 2501};
+inline constexpr ErrorCode kNoSearch{kCategorySearch, 2601};
+inline constexpr ErrorCode kDestinationNotEmpty{kCategoryName, 2206};
+inline constexpr ErrorCode kNameTaken{kCategoryName, 2207};
 }  // namespace errc
 
 class Error {

@@ -1,6 +1,7 @@
 #pragma once
 // Base of every geometry item. A kind adds a subclass holding its data and
-// its extent; the database only needs the type word and the bounds.
+// its extent; the database only needs the type word, the bounds and a copy.
+#include <memory>
 #include <string_view>
 
 #include "database/entity.h"
@@ -18,11 +19,40 @@ class Geometry : public Entity, public ListLink<Geometry> {
   // The item's extent in its segment's coordinates.
   virtual Bounds ComputeBounds() const = 0;
 
+  // An unkeyed, unplaced copy with the same data, for copying into another
+  // segment.
+  virtual std::unique_ptr<Geometry> Clone() const = 0;
+
+  // Open frames of all threads on this item; open geometry cannot be
+  // deleted or moved.
+  int open_frames() const { return open_frames_; }
+  void AddOpenFrame() { ++open_frames_; }
+  void RemoveOpenFrame() { --open_frames_; }
+
  protected:
   explicit Geometry(GeometryType type) : Entity(EntityKind::kGeometry), type_(type) {}
+  // A copy is closed, whatever the original.
+  Geometry(const Geometry& other) : Entity(other), ListLink<Geometry>(other), type_(other.type_) {}
+
+  // Every change of shape goes through here so the owner's cached bounds
+  // are recomputed when next asked for.
+  void MarkChanged();
 
  private:
   GeometryType type_;
+  int open_frames_ = 0;
+};
+
+// The Clone of a final geometry class that copies as a value.
+template <typename Derived>
+class CopyableGeometry : public Geometry {
+ public:
+  std::unique_ptr<Geometry> Clone() const override {
+    return std::make_unique<Derived>(static_cast<const Derived&>(*this));
+  }
+
+ protected:
+  using Geometry::Geometry;
 };
 
 }  // namespace graphics

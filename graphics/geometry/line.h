@@ -4,9 +4,9 @@
 
 namespace graphics {
 
-class Line final : public Geometry {
+class Line final : public CopyableGeometry<Line> {
  public:
-  Line(const Point& start, const Point& end) : Geometry(GeometryType::kLine), start_(start), end_(end) {}
+  Line(const Point& start, const Point& end) : CopyableGeometry(GeometryType::kLine), start_(start), end_(end) {}
 
   const Point& start() const { return start_; }
   const Point& end() const { return end_; }

@@ -1,12 +1,10 @@
 #include "geometry/text.h"
 
-#include "database/segment.h"
-
 namespace graphics {
 
 void Text::MoveTo(const Point& position) {
   position_ = position;
-  if (owner() != nullptr) owner()->MarkBoundsDirty();
+  MarkChanged();
 }
 
 Bounds Text::ComputeBounds() const {

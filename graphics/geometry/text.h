@@ -5,10 +5,10 @@
 
 namespace graphics {
 
-class Text final : public Geometry {
+class Text final : public CopyableGeometry<Text> {
  public:
   Text(const Point& position, EncodedText text)
-      : Geometry(GeometryType::kText), position_(position), text_(std::move(text)) {}
+      : CopyableGeometry(GeometryType::kText), position_(position), text_(std::move(text)) {}
 
   const Point& position() const { return position_; }
   const EncodedText& text() const { return text_; }

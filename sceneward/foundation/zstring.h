@@ -17,9 +17,11 @@
 // Copies never share a borrowed pointer and always go through the
 // 0-terminated view of the source, so an embedded 0 cuts a copy short.
 // There is deliberately no move constructor: a temporary is copied.
+#include <cstdarg>
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/wide_char.h"
 
@@ -244,7 +246,146 @@ class ZString {
   void MakeUpper();
   void MakeLower();
 
+  // Operations that search, edit, split or parse work in this string's form:
+  // a narrow string against the narrow view of the other argument, a wide
+  // one against its wide view. Each first folds in a borrowed text or an
+  // open buffer. Positions count bytes or units of that form; -1 means
+  // nothing was found.
+
+  // Searching. `start` is taken as an unsigned position, so a negative
+  // `start` of a forward search finds nothing, and -1 for a backward search
+  // means the end of the string.
+
+  // The first match of `what` at or after `start`. An empty `what` matches
+  // at `start` if `start` is at most the length.
+  int Find(const ZString& what, int start = 0) const;
+  // The last match of `what` beginning at or before `start`. An empty
+  // `what` matches at the smaller of `start` and the length.
+  int ReverseFind(const ZString& what, int start = -1) const;
+  // Find and ReverseFind on copies of both strings taken through MakeLower.
+  int FindNoCase(const ZString& what, int start = 0) const;
+  int ReverseFindNoCase(const ZString& what, int start = -1) const;
+  // The first element at or after `start` that is in `set`; an empty `set`
+  // finds nothing.
+  int FindOneOf(const ZString& set, int start = 0) const;
+  // The last element at or before `start` that is in `set`.
+  int ReverseFindOneOf(const ZString& set, int start = -1) const;
+  // The first element at or after `start` that is not in `set`; with an
+  // empty `set` that is `start` itself, if it is inside the string.
+  int FindOneNotOf(const ZString& set, int start = 0) const;
+  // The last element at or before `start` that is not in `set`; an empty
+  // string finds nothing.
+  int ReverseFindOneNotOf(const ZString& set, int start = -1) const;
+  // The run from `start` up to the first element in `set` (SpanExcluding)
+  // or not in `set` (SpanIncluding), or to the end if there is none.
+  ZString SpanExcluding(const ZString& set, int start = 0) const;
+  ZString SpanIncluding(const ZString& set, int start = 0) const;
+
+  // Cutting.
+
+  // Mid(0, n): the whole string if `n` reaches beyond it.
+  ZString Left(unsigned n) const;
+  // Mid(GetLength() - n), in unsigned arithmetic: an `n` greater than the
+  // length gives the empty string, not the whole string.
+  ZString Right(unsigned n) const;
+
+  // Editing in place.
+
+  // Removes `count` elements from `index`. A negative `count`, or one that
+  // reaches the end, cuts everything from `index`. Returns the new length.
+  int Delete(unsigned index, int count = 1);
+  // Puts `s` before the element at `index`; an `index` beyond the end
+  // appends. A wide `s` makes a narrow string wide. Returns the new length.
+  int Insert(unsigned index, const ZString& s);
+  // Replaces every occurrence of `what` with `with`, left to right, never
+  // searching inserted text again. The string becomes wide if it is narrow
+  // and either argument is wide; otherwise it keeps its form. An empty
+  // `what` matches nothing. Returns the number of replacements.
+  int Replace(const ZString& what, const ZString& with);
+  // Replace(what, ""): removes whole occurrences of `what`, not a set of
+  // characters. Returns their count.
+  int Remove(const ZString& what);
+  // TrimLeft(set), then TrimRight(set). There is no default set: pass the
+  // whitespace to remove.
+  ZString& Trim(const ZString& set);
+  // Removes the leading (TrimLeft) or trailing (TrimRight) elements that are
+  // in `set`. A string made only of such elements becomes the empty narrow
+  // string, whatever its form was.
+  ZString& TrimLeft(const ZString& set);
+  ZString& TrimRight(const ZString& set);
+  // Reverses the order of the bytes or units, so a multibyte character or a
+  // surrogate pair comes out reversed too.
+  void MakeReverse();
+
+  // Paths. `sep` separates directories; a dot after the last separator,
+  // and not first in the name, starts the extension, so ".profile" and
+  // "dir/.profile" have none, and "a." has the empty one.
+
+  // Everything up to and including the last `sep`; empty if there is none.
+  ZString GetFilePath(char sep) const;
+  // Everything behind the last `sep`; the whole string if there is none.
+  ZString GetFileName(char sep) const;
+  // GetFileName without the extension and its dot.
+  ZString GetFileNameNoExtension(char sep) const;
+  // The extension without its dot; empty if there is none.
+  ZString GetExtension(char sep) const;
+  // Cuts the extension and its dot off; a name without one is left alone.
+  void RemoveExtension(char sep);
+
+  // Splitting. Both append to `out` (which is not cleared) the pieces of
+  // this string from `start` on, cut at each delimiter: adjacent delimiters
+  // give an empty piece between them, a trailing one an empty last piece,
+  // and there is always at least one piece. Without `caseSensitive` the
+  // delimiters are matched on copies taken through MakeLower, and the
+  // pieces keep their case.
+
+  // Cuts at every element that is in `delims`.
+  void SplitByChars(const ZString& delims, std::vector<ZString>& out, bool caseSensitive = true,
+                    int start = 0) const;
+  // Cuts at every occurrence of `delim`. An empty `delim` matches nothing,
+  // so the rest of the string from `start` is the one piece.
+  void SplitByString(const ZString& delim, std::vector<ZString>& out, bool caseSensitive = true,
+                     int start = 0) const;
+
+  // Numbers. The leading number of the text, read like sscanf with "%d",
+  // "%ld", "%lf" and "%lld" under the current C locale: leading whitespace
+  // is skipped, reading stops at the first element that does not fit, and
+  // text that starts with no number gives 0. A wide string is read up to
+  // its first unit of 128 or above. A value out of the type's range comes
+  // back as the C library's conversion leaves it.
+  int GetAsInt() const;
+  long GetAsLong() const;
+  double GetAsDouble() const;
+  // GetAsDouble, narrowed to float.
+  float GetAsFloat() const;
+  long long GetAsI64() const;
+
+  // Formatted text. The string becomes the text of `fmt` with the
+  // arguments, in the form of `fmt`, whatever form the arguments or this
+  // string had. A narrow format follows the C library's printf, so its %s
+  // takes narrow text (and its %ls the C library's wchar_t text); a wide
+  // format follows platform::FormatWide, so its %s, %ls, %c and %lc take
+  // 16-bit text and units; text arguments are pointers (GetAsMBCS(),
+  // GetAsWChar_T()), never ZString objects. 64-bit integers are "%lld",
+  // not "%I64d". A format that cannot be formatted (see
+  // platform::FormatWide, or an argument the narrow printf cannot convert)
+  // gives the empty string in the format's form.
+  void Format(ZString fmt, ...);
+  void FormatV(ZString fmt, va_list args);
+  // Loads the format as wide string resource `id` of `module` (a missing
+  // one is the empty format) and formats with it.
+  void Format(unsigned long id, void* module, ...);
+  void Format16(unsigned long id, void* module, ...);
+  // The same with the format loaded as a narrow resource.
+  void Format8(unsigned long id, void* module, ...);
+
  private:
+  enum class SplitMode { kByChars, kByString };
+  // The loop behind SplitByChars and SplitByString.
+  void SplitInternal(const ZString& delim, std::vector<ZString>& out, SplitMode mode,
+                     bool caseSensitive, int start) const;
+
+
   // refFlags: how refPtr is read. Bit 1 narrow text, bit 2 wide text, bit 4
   // owned (to be freed). 0 means refPtr carries no text.
   static constexpr uint32_t kRefNarrow = 1;
@@ -277,3 +418,11 @@ class ZString {
   mutable uint32_t refFlags = 0;
   mutable void* refPtr = nullptr;  // borrowed or owned text, or null
 };
+
+// A new string formatted by FormatV with `fmt` (LoadZString), or with the
+// format loaded as the wide (LoadZString, LoadZString16) or narrow
+// (LoadZString8) string resource `id` of `module`.
+ZString LoadZString(ZString fmt, ...);
+ZString LoadZString(unsigned long id, void* module, ...);
+ZString LoadZString16(unsigned long id, void* module, ...);
+ZString LoadZString8(unsigned long id, void* module, ...);

@@ -123,14 +123,16 @@ TEST_F(KeysAndDeletion, ResetInvalidatesEveryKeyForGood) {
   EXPECT_TRUE(TakeReports().empty());
 }
 
-TEST_F(KeysAndDeletion, WildcardDeletesAreRefusedForNow) {
+TEST_F(KeysAndDeletion, WildcardsAndListsDeleteEveryMatch) {
   HC_Create_Segment("/w/one");
-  const std::string before = TreeSnapshot();
-  HC_Delete_Segment("/w/*");
-  const auto reports = TakeReports();
-  ASSERT_EQ(reports.size(), 1u);
-  EXPECT_EQ(reports[0].category, graphics::kCategoryName);
-  EXPECT_EQ(TreeSnapshot(), before);
+  HC_Create_Segment("/w/two/below");
+  const long long kept = HC_Create_Segment("/w/kept");
+  HC_Delete_Segment("/w/(one, two)");
+  EXPECT_EQ(HC_QShow_Existence("/w/*", "self"), 1);
+  EXPECT_EQ(KeyStatus(kept), "valid");
+  HC_Delete_Segment("/w/...");
+  EXPECT_EQ(HC_QShow_Existence("/w", "self"), 0);
+  EXPECT_TRUE(TakeReports().empty());
 }
 
 }  // namespace
