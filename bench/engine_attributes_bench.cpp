@@ -38,14 +38,14 @@ void BM_NetColourTenLevelsDeep(benchmark::State& state) {
   HC_Open_Segment("/bench/styles/painted");
   HC_Set_Color("faces=green");
   HC_Close_Segment();
-  const long long top = HC_Open_Segment("/bench/top");
-  HC_Style_Segment("/bench/styles/painted");
-  const long long include = HC_Include_Segment("/bench/library");
-  HC_Close_Segment();
   HC_Open_Segment("/bench/library");
   long long leaf = -1;
   for (int level = 0; level < 10; ++level) leaf = HC_Open_Segment("level");
   for (int level = 0; level <= 10; ++level) HC_Close_Segment();
+  const long long top = HC_Open_Segment("/bench/top");
+  HC_Style_Segment("/bench/styles/painted");
+  const long long include = HC_Include_Segment("/bench/library");
+  HC_Close_Segment();
   const long long path[] = {leaf, include, top};
   float rgb[3];
   char texture[64], options[64];
