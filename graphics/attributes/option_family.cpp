@@ -130,12 +130,12 @@ Result<std::string> MergeLocks(const std::string* existing, std::string_view add
   }
   auto fresh = ParseLocks(added);
   if (!fresh.ok()) return fresh.error();
-  for (auto& [name, value] : fresh.value()) {
-    auto found = std::find_if(merged.begin(), merged.end(), [&](const auto& lock) { return lock.first == name; });
+  for (auto& lock : fresh.value()) {
+    auto found = std::find_if(merged.begin(), merged.end(), [&](const auto& old) { return old.first == lock.first; });
     if (found != merged.end()) {
-      found->second = value;
+      found->second = lock.second;
     } else {
-      merged.emplace_back(name, value);
+      merged.push_back(lock);
     }
   }
   return FormatLocks(std::move(merged));
