@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static_cast<void>(ParseOptionList(text));
   for (AttributeKind kind : {AttributeKind::kVisibility, AttributeKind::kSelectability, AttributeKind::kHeuristics,
                              AttributeKind::kRenderingOptions, AttributeKind::kDriverOptions, AttributeKind::kTextFont,
-                             AttributeKind::kConditions, AttributeKind::kCallbacks}) {
+                             AttributeKind::kConditions, AttributeKind::kCallbacks, AttributeKind::kGeometryOptions}) {
     OptionSettings settings;
     if (settings.Merge(*FamilyOf(kind), text).ok()) {
       // What is shown must read back the same.

@@ -8,11 +8,13 @@
 #include "api/arguments.h"
 #include "api/call.h"
 #include "api/geometry_arguments.h"
+#include "attributes/option_string.h"
+#include "database/visible_bounds.h"
+#include "engine/system_switches.h"
 #include "geometry/geometry.h"
 #include "geometry/vector_ops.h"
 #include "hc/hc.h"
 #include "search/segment_spec.h"
-#include "strings/text.h"
 
 using graphics::Bounds;
 using graphics::Done;
@@ -29,6 +31,7 @@ using graphics::api::Access;
 using graphics::api::ReadPoint;
 using graphics::api::Require;
 using graphics::api::Run;
+using graphics::api::RunDuringUpdate;
 using graphics::api::Write;
 using graphics::api::WritePoints;
 
@@ -71,40 +74,62 @@ bool WriteSphere(const Sphere& sphere, void* center, float* radius) {
   return true;
 }
 
-// The union of the content bounds of the segments `spec` designates.
-Result<Bounds> BoundsOf(Session& session, const char* spec) {
+// Includes and styles have no extent: they are references.
+Error NoBoundsOfItsOwn(long long key, const graphics::Entity& item) {
+  return Error(graphics::errc::kWrongKeyKind, "key " + std::to_string(key) + " refers to an " +
+                                                  std::string(item.TypeWord()) + ", which has no bounds of its own");
+}
+
+// The union of the content bounds of the segments `spec` designates;
+// `visible_only` leaves out what would not be drawn.
+Result<Bounds> BoundsOf(Session& session, const char* spec, bool visible_only = false) {
   auto required = Require(spec, "segment specification");
   if (!required.ok()) return required.error();
   auto segments = graphics::MatchSegments(session.database(), session.current(), spec);
   if (!segments.ok()) return segments.error();
   Bounds box;
-  for (const Segment* segment : segments.value()) box.Include(segment->ContentBounds());
+  for (const Segment* segment : segments.value()) {
+    box.Include(visible_only ? graphics::VisibleContentBounds(session.database(), *segment)
+                             : segment->ContentBounds());
+  }
   return box;
 }
 
-// A segment's content bounds or a geometry item's own.
-Result<Bounds> BoundsOfKey(Session& session, long long key) {
+// A segment's content bounds or a geometry item's own; `visible_only` as
+// above.
+Result<Bounds> BoundsOfKey(Session& session, long long key, bool visible_only = false) {
   auto item = session.database().FindItem(key);
   if (!item.ok()) return item.error();
   switch (item.value()->kind()) {
-    case EntityKind::kSegment:
-      return static_cast<const Segment*>(item.value())->ContentBounds();
-    case EntityKind::kGeometry:
-      return static_cast<const Geometry*>(item.value())->ComputeBounds();
+    case EntityKind::kSegment: {
+      const auto& segment = *static_cast<const Segment*>(item.value());
+      return visible_only ? graphics::VisibleContentBounds(session.database(), segment) : segment.ContentBounds();
+    }
+    case EntityKind::kGeometry: {
+      const auto& geometry = *static_cast<const Geometry*>(item.value());
+      return visible_only ? graphics::VisibleItemBounds(geometry) : geometry.ComputeBounds();
+    }
     default:
-      return Error(graphics::errc::kWrongKeyKind, "key " + std::to_string(key) +
-                                                      " refers to an " + std::string(item.value()->TypeWord()) +
-                                                      ", which has no bounds of its own");
+      return NoBoundsOfItsOwn(key, *item.value());
   }
 }
 
-// Only "visibility" and "no visibility" are understood.
-Status CheckFilterOptions(const char* options) {
+// Whether the filter options ask for visible geometry only: "visibility"
+// (the default) or "no visibility", the last one winning. Other words are
+// errors.
+Result<bool> ReadVisibilityFilter(const char* options) {
   auto required = Require(options, "options");
-  if (!required.ok()) return required;
-  const std::string word = graphics::NormalizeWord(options);
-  if (word.empty() || word == "visibility" || word == "no visibility") return Done{};
-  return Error(graphics::errc::kUnknownOption, "unrecognised option '" + std::string(options) + "'");
+  if (!required.ok()) return required.error();
+  auto items = graphics::ParseOptionList(options);
+  if (!items.ok()) return items.error();
+  bool visible_only = true;
+  for (const graphics::OptionItem& item : items.value()) {
+    if (item.name != "visibility" || item.value) {
+      return Error(graphics::errc::kUnknownOption, "unrecognised option '" + item.name + "'");
+    }
+    visible_only = !item.negated;
+  }
+  return visible_only;
 }
 
 // The kept volume of a segment: the program's sphere if it set one, else
@@ -117,10 +142,12 @@ struct KeptVolume {
 KeptVolume Kept(const Segment& segment) { return KeptVolume{segment.ContentBounds(), segment.explicit_sphere()}; }
 
 // The kept volume of a key: segments, shells and meshes keep one; other
-// items answer nothing, silently.
+// items answer nothing, silently, and so does every item while the
+// "bounding volumes" system option is off.
 Result<std::optional<KeptVolume>> KeptOfKey(Session& session, long long key) {
   auto item = session.database().FindItem(key);
   if (!item.ok()) return item.error();
+  if (!graphics::BoundingVolumesOn()) return std::optional<KeptVolume>();
   if (item.value()->kind() == EntityKind::kSegment) {
     return std::optional<KeptVolume>(Kept(*static_cast<const Segment*>(item.value())));
   }
@@ -135,7 +162,7 @@ Result<std::optional<KeptVolume>> KeptOfKey(Session& session, long long key) {
 
 std::optional<KeptVolume> KeptOfCurrent(Session& session) {
   const Segment* segment = session.SegmentToRead();
-  if (segment == nullptr) return std::nullopt;
+  if (segment == nullptr || !graphics::BoundingVolumesOn()) return std::nullopt;
   return Kept(*segment);
 }
 
@@ -149,6 +176,29 @@ bool ShowSphere(const std::optional<KeptVolume>& kept, void* center, float* radi
   if (kept->sphere) return WriteSphere(Sphere{kept->sphere->center, kept->sphere->radius}, center, radius);
   if (kept->box.empty()) return false;
   return WriteSphere(Enclosing(kept->box), center, radius);
+}
+
+Result<bool> ShowCuboidOfKey(Session& session, long long key, void* min, void* max) {
+  auto kept = KeptOfKey(session, key);
+  if (!kept.ok()) return kept.error();
+  return ShowCuboid(kept.value(), min, max);
+}
+
+Result<bool> ShowSphereOfKey(Session& session, long long key, void* center, float* radius) {
+  auto kept = KeptOfKey(session, key);
+  if (!kept.ok()) return kept.error();
+  return ShowSphere(kept.value(), center, radius);
+}
+
+// The immediate-mode forms answer as the plain ones; no renderer consults
+// the rendition yet, but it must be given.
+template <typename Show>
+bool ShowDuringUpdate(const char* routine, HIC_Rendition const* nr, Show&& show) {
+  return RunDuringUpdate(kBoundsAccess, routine, false, [&](Session& session) -> Result<bool> {
+    auto required = Require(nr, "rendition");
+    if (!required.ok()) return required.error();
+    return show(session);
+  });
 }
 
 }  // namespace
@@ -185,12 +235,12 @@ extern "C" bool HC_Compute_Circumsphere_By_Key(long long key, void* center, floa
   });
 }
 
-// Visibility does not restrict the box yet: every item counts as visible.
+// "visibility" (the default) leaves out geometry that would not be drawn.
 extern "C" bool HC_Filter_Circumcuboid(char const* segment, char const* options, void* min, void* max) {
   return Run(kBoundsAccess, __func__, false, [&](Session& session) -> Result<bool> {
-    auto checked = CheckFilterOptions(options);
-    if (!checked.ok()) return checked.error();
-    auto box = BoundsOf(session, segment);
+    auto visible_only = ReadVisibilityFilter(options);
+    if (!visible_only.ok()) return visible_only.error();
+    auto box = BoundsOf(session, segment, visible_only.value());
     if (!box.ok()) return box.error();
     return WriteBox(box.value(), min, max);
   });
@@ -198,9 +248,9 @@ extern "C" bool HC_Filter_Circumcuboid(char const* segment, char const* options,
 
 extern "C" bool HC_Filter_Circumcuboid_By_Key(long long key, char const* options, void* min, void* max) {
   return Run(kBoundsAccess, __func__, false, [&](Session& session) -> Result<bool> {
-    auto checked = CheckFilterOptions(options);
-    if (!checked.ok()) return checked.error();
-    auto box = BoundsOfKey(session, key);
+    auto visible_only = ReadVisibilityFilter(options);
+    if (!visible_only.ok()) return visible_only.error();
+    auto box = BoundsOfKey(session, key, visible_only.value());
     if (!box.ok()) return box.error();
     return WriteBox(box.value(), min, max);
   });
@@ -212,11 +262,8 @@ extern "C" bool HC_Show_Bounding_Cuboid(void* min, void* max) {
 }
 
 extern "C" bool HC_Show_Bounding_Cuboid_By_Key(long long key, void* min, void* max) {
-  return Run(kBoundsAccess, __func__, false, [&](Session& session) -> Result<bool> {
-    auto kept = KeptOfKey(session, key);
-    if (!kept.ok()) return kept.error();
-    return ShowCuboid(kept.value(), min, max);
-  });
+  return Run(kBoundsAccess, __func__, false,
+             [&](Session& session) { return ShowCuboidOfKey(session, key, min, max); });
 }
 
 extern "C" bool HC_Show_Bounding_Sphere(void* center, float* radius) {
@@ -225,11 +272,17 @@ extern "C" bool HC_Show_Bounding_Sphere(void* center, float* radius) {
 }
 
 extern "C" bool HC_Show_Bounding_Sphere_By_Key(long long key, void* center, float* radius) {
-  return Run(kBoundsAccess, __func__, false, [&](Session& session) -> Result<bool> {
-    auto kept = KeptOfKey(session, key);
-    if (!kept.ok()) return kept.error();
-    return ShowSphere(kept.value(), center, radius);
-  });
+  return Run(kBoundsAccess, __func__, false,
+             [&](Session& session) { return ShowSphereOfKey(session, key, center, radius); });
+}
+
+extern "C" bool HIC_Show_Bounding_Cuboid_By_Key(HIC_Rendition const* nr, long long key, void* min, void* max) {
+  return ShowDuringUpdate(__func__, nr, [&](Session& session) { return ShowCuboidOfKey(session, key, min, max); });
+}
+
+extern "C" bool HIC_Show_Bounding_Sphere_By_Key(HIC_Rendition const* nr, long long key, void* center, float* radius) {
+  return ShowDuringUpdate(__func__, nr,
+                          [&](Session& session) { return ShowSphereOfKey(session, key, center, radius); });
 }
 
 // On the current segment; it lasts until something below changes.

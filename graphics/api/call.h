@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "engine/engine.h"
+#include "engine/update_scope.h"
 #include "errors/error.h"
 #include "session/session.h"
 
@@ -56,6 +57,26 @@ T Run(Access access, const char* routine, T on_failure, Body&& body) {
 template <typename Body>
 void Run(Access access, const char* routine, Body&& body) {
   Run<Done>(access, routine, Done{}, std::forward<Body>(body));
+}
+
+// As Run, for the immediate-mode reads an update's callbacks make: inside
+// an update, which holds the lock exclusively already, the body runs under
+// that lock instead of taking it again, and its error is reported at once.
+template <typename T, typename Body>
+T RunDuringUpdate(Access access, const char* routine, T on_failure, Body&& body) {
+  if (!UpdateScope::Active()) return Run(access, routine, std::move(on_failure), std::forward<Body>(body));
+  std::optional<Error> failure;
+  try {
+    Engine& engine = Engine::Instance();
+    Session session(engine.database(), engine.ThisThreadStack());
+    Result<T> result = body(session);
+    if (result.ok()) return std::move(result.value());
+    failure = result.error();
+  } catch (const std::bad_alloc&) {
+    failure = Error(errc::kOutOfMemory, "out of memory", kFatal);
+  }
+  Report(*failure, routine);
+  return on_failure;
 }
 
 // Reports `status`'s error, if any, for a function that needs no lock.

@@ -1,9 +1,10 @@
-// The current segment's colours and colour map, their net values along key
+// The colours of the current segment or open geometry; colour maps and colour map, their net values along key
 // paths, and colour conversion.
 #include <algorithm>
 #include <string>
 
 #include "api/arguments.h"
+#include "api/attribute_target.h"
 #include "api/call.h"
 #include "api/net_path.h"
 #include "attributes/color.h"
@@ -24,8 +25,8 @@ TextureLookup TexturesSeenFrom(const Segment* segment) {
 }
 
 const ColorSettings* LocalColors(Session& session) {
-  const Segment* segment = session.SegmentToRead();
-  return segment ? segment->attributes().Find<ColorSettings>() : nullptr;
+  const AttributeStore* store = api::StoreToRead(session);
+  return store ? store->Find<ColorSettings>() : nullptr;
 }
 
 // Applies `change(ColorSettings&, const Segment*)` to a copy of the local
@@ -33,15 +34,15 @@ const ColorSettings* LocalColors(Session& session) {
 template <typename Change>
 void ChangeColors(const char* routine, Change&& change) {
   Run(Access::kWrite, routine, [&](Session& session) -> Status {
-    Segment* segment = session.SegmentToChange();
-    const ColorSettings* local = segment ? segment->attributes().Find<ColorSettings>() : nullptr;
+    const api::AttributeTarget target = api::TargetToChange(session);
+    const ColorSettings* local = target.store ? target.store->Find<ColorSettings>() : nullptr;
     ColorSettings changed = local ? *local : ColorSettings();
-    Status status = change(changed, segment);
-    if (!status.ok() || segment == nullptr) return status;
+    Status status = change(changed, target.segment);
+    if (!status.ok() || target.store == nullptr) return status;
     if (changed.empty()) {
-      segment->MutableAttributes().Remove(ColorSettings::kKind);
+      target.store->Remove(ColorSettings::kKind);
     } else {
-      segment->MutableAttributes().Set(std::move(changed));
+      target.store->Set(std::move(changed));
     }
     return Done{};
   });
@@ -72,8 +73,8 @@ struct NetColor {
 
 NetColor NetColorOf(const AttributePath& path, const std::string& target, const std::string& channel) {
   NetColor net;
-  path.WalkHeard(AttributeKind::kColor, target, [&](const Segment& segment) {
-    const auto* local = segment.attributes().Find<ColorSettings>();
+  path.WalkHeard(AttributeKind::kColor, target, [&](const AttributeStore& store) {
+    const auto* local = store.Find<ColorSettings>();
     if (const ColorValue* value = local ? local->Find(target, channel) : nullptr) net.value = value;
   });
   return net;

@@ -23,11 +23,24 @@ namespace {
 
 bool IsSelf(const char* filter) { return graphics::NormalizeWord(filter) == "self"; }
 
-// What a contents search with `filter` would find in `segment`.
+// What a contents search with `filter` would find in `segment`. The root
+// holds the default of every attribute, so an attribute named as a whole
+// exists there even when nothing was set: a walk up the owners that looks
+// for a set attribute always ends at the root.
+int CountIn(const Segment& segment, const ContentsFilter& filter) {
+  int count = static_cast<int>(filter.Collect(segment).size());
+  if (segment.owner() == nullptr) {
+    for (graphics::AttributeKind kind : filter.WholeAttributesNamed()) {
+      if (!segment.attributes().Has(kind)) ++count;
+    }
+  }
+  return count;
+}
+
 Result<int> CountIn(const Segment& segment, const char* filter) {
   auto parsed = ContentsFilter::Parse(filter);
   if (!parsed.ok()) return parsed.error();
-  return static_cast<int>(parsed.value().Collect(segment).size());
+  return CountIn(segment, parsed.value());
 }
 
 }  // namespace
@@ -64,7 +77,7 @@ extern "C" int HC_QShow_Existence(char const* segment, char const* filter) {
     if (!matched.ok()) return matched.error();
     if (IsSelf(filter)) return static_cast<int>(matched.value().size());
     int count = 0;
-    for (const Segment* s : matched.value()) count += static_cast<int>(parsed.value().Collect(*s).size());
+    for (const Segment* s : matched.value()) count += CountIn(*s, parsed.value());
     return count;
   });
 }

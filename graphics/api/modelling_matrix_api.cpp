@@ -136,8 +136,7 @@ bool ShowNetMatrix(const char* routine, AttributeKind kind, int count, const lon
   return Run(Access::kRead, routine, false, [&](Session& session) -> Result<bool> {
     auto path = graphics::api::NetPath(session, count, keys);
     if (!path.ok()) return path.error();
-    bool set = false;
-    path.value().Walk([&](const Segment& segment) { set = set || LocalMatrix(segment, kind) != nullptr; });
+    const bool set = path.value().HasMatrix(kind);
     const Matrix net = kind == kModelling ? path.value().NetModellingMatrix() : path.value().NetTextureMatrix();
     if (out != nullptr) {
       for (int i = 0; i < 16; ++i) out[i] = static_cast<float>(net.elements()[i]);

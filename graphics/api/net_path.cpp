@@ -2,11 +2,18 @@
 
 #include <span>
 
+#include "api/attribute_target.h"
+
 namespace graphics::api {
 
 Result<AttributePath> NetPath(Session& session, int count, const long long* keys) {
   if (count < 0) return Error(errc::kOutOfRange, "a key path cannot have a negative count");
   if (count == 0) {
+    const OpenStack& stack = session.open_stack();
+    if (stack.top_is_geometry()) {
+      const OpenFrame& frame = stack.top_frame();
+      return AttributePath::Of(*frame.geometry, frame.kind == OpenFrame::Kind::kGeometry ? nullptr : StoreToRead(session));
+    }
     const Segment* segment = session.SegmentToRead();
     return segment ? AttributePath::Of(*segment) : AttributePath();
   }

@@ -1,6 +1,7 @@
 #pragma once
-// The path a net query walks: a count of 0 means the open segment (or the
-// default window) and its owners; otherwise the keys, lowest item first.
+// The path a net query walks: a count of 0 means the open geometry (and its
+// open part) with its segment, or the open segment (or the default window),
+// and their owners; otherwise the keys, lowest item first.
 #include "errors/error.h"
 #include "session/session.h"
 #include "traversal/attribute_path.h"

@@ -8,6 +8,7 @@
 #include "api/arguments.h"
 #include "api/call.h"
 #include "api/local_value_calls.h"
+#include "attributes/priorities.h"
 #include "attributes/regions.h"
 #include "hc/hc.h"
 
@@ -34,13 +35,6 @@ void WritePoints(void* out, const std::vector<Point>& points) {
   if (out == nullptr) return;
   auto* f = static_cast<float*>(out);
   for (const Point& p : points) *f++ = p.x, *f++ = p.y, *f++ = p.z;
-}
-
-// Explicit priorities by key. Keys are never reused, so an entry of a
-// deleted item is never asked for again.
-std::map<long long, int>& Priorities() {
-  static std::map<long long, int> priorities;
-  return priorities;
 }
 
 // An item's rank among its siblings of the same list, from 0.

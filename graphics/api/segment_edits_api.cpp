@@ -1,9 +1,11 @@
 // Renaming, moving, copying and flushing parts of the tree.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "api/arguments.h"
 #include "api/call.h"
+#include "database/attribute_parts.h"
 #include "database/segment_path.h"
 #include "hc/hc.h"
 #include "search/contents_filter.h"
@@ -29,10 +31,13 @@ namespace errc = graphics::errc;
 namespace {
 
 // Where a rename or copy puts a segment: the owner, and the leaf name,
-// unless the destination ended in "/*", which keeps each source's own.
+// unless the destination ended in "/*", which keeps each source's own. A
+// path that ends in a step rather than a name (".", "..", "^", a key)
+// names an existing segment itself, which only a copy can go into.
 struct Destination {
   Segment* owner = nullptr;
   std::optional<std::string> leaf;  // stored form; empty for anonymous
+  Segment* itself = nullptr;
 };
 
 // The position of the last "/" outside quotes, or npos.
@@ -67,9 +72,11 @@ Result<Destination> ReadDestination(Session& session, std::string_view path, Seg
   auto component = graphics::ParseComponent(path, leaf);
   if (!component.ok()) return component.error();
   if (component.value().kind != graphics::PathComponent::Kind::kName) {
-    return Error(errc::kBadName, "'" + std::string(path) + "' does not end in a name");
+    auto itself = session.Resolve(text, graphics::Creation::kCreateMissing);
+    if (!itself.ok()) return itself.error();
+    return Destination{nullptr, std::nullopt, itself.value()};
   }
-  return Destination{owner.value(), component.value().name};
+  return Destination{owner.value(), component.value().name, nullptr};
 }
 
 // The segments a specification names: at least one must exist.
@@ -82,6 +89,21 @@ Result<std::vector<Segment*>> Sources(Session& session, const char* spec) {
   return matched;
 }
 
+// The local attributes `segment` keeps after the flush's removals; an
+// unknown part is an error.
+Result<graphics::AttributeStore> FlushedAttributes(const Segment& segment,
+                                                   const std::vector<ContentsFilter::AttributeRemoval>& removals) {
+  graphics::AttributeStore kept = segment.attributes();
+  for (const ContentsFilter::AttributeRemoval& removal : removals) {
+    if (removal.parts.empty()) kept.Remove(removal.kind);
+    for (const std::string& part : removal.parts) {
+      auto removed = graphics::RemoveAttributePart(kept, removal.kind, part);
+      if (!removed.ok()) return removed.error();
+    }
+  }
+  return kept;
+}
+
 Status Flush(Session& session, const char* spec, const char* filter) {
   auto required = Require(filter, "type list");
   if (!required.ok()) return required;
@@ -91,14 +113,25 @@ Status Flush(Session& session, const char* spec, const char* filter) {
   if (!required_spec.ok()) return required_spec;
   auto segments = graphics::MatchSegments(session.database(), session.current(), spec);
   if (!segments.ok()) return segments.error();
+  // Every segment's attributes are worked out first, so an unknown part
+  // leaves everything as it was.
+  std::vector<std::pair<Segment*, graphics::AttributeStore>> attribute_changes;
+  for (Segment* segment : segments.value()) {
+    const auto removals = parsed.value().Removals(*segment);
+    if (removals.empty()) continue;
+    auto kept = FlushedAttributes(*segment, removals);
+    if (!kept.ok()) return kept.error();
+    attribute_changes.emplace_back(segment, std::move(kept.value()));
+  }
+  for (auto& [segment, kept] : attribute_changes) segment->MutableAttributes() = std::move(kept);
   Status outcome = Done{};
   for (Segment* segment : segments.value()) {
-    for (graphics::AttributeKind kind : parsed.value().Attributes(*segment)) segment->MutableAttributes().Remove(kind);
-    // By key, since deleting a subsegment also deletes the includes of it.
+    // By library key, since deleting a subsegment also deletes the
+    // includes of it.
     std::vector<long long> keys;
-    for (Entity* item : parsed.value().KeyedItems(*segment)) keys.push_back(item->key());
+    for (Entity* item : parsed.value().KeyedItems(*segment)) keys.push_back(item->library_key());
     for (long long key : keys) {
-      Entity* item = session.database().Find(key);
+      Entity* item = session.database().FindByLibraryKey(key);
       if (item == nullptr) continue;
       // Open segments stay; the others still go.
       auto deleted = session.database().Delete(*item);
@@ -128,6 +161,9 @@ extern "C" void HC_Rename_Segment(char const* old_name, char const* new_name) {
       auto destination = ReadDestination(session, new_name, source->owner());
       if (!destination.ok()) return destination.error();
       const Destination& d = destination.value();
+      if (d.itself != nullptr) {
+        return Error(errc::kBadName, "'" + std::string(new_name) + "' does not end in a name");
+      }
       auto moved = session.database().Move(*source, *d.owner, d.leaf ? *d.leaf : source->name());
       if (!moved.ok()) return moved;
     }
@@ -136,27 +172,31 @@ extern "C" void HC_Rename_Segment(char const* old_name, char const* new_name) {
 }
 
 // The destination is made when missing and must be empty; the key of the
-// (last) copy comes back.
+// (last) copy comes back. A destination that holds something is reported
+// and left alone, and its key still comes back.
 extern "C" long long HC_Copy_Segment(char const* old_seg_name, char const* new_seg_name) {
-  return Run(Access::kWrite, __func__, -1LL, [&](Session& session) -> Result<long long> {
+  long long key = -1;
+  Run(Access::kWrite, __func__, [&](Session& session) -> Status {
     auto sources = Sources(session, old_seg_name);
     if (!sources.ok()) return sources.error();
     auto required = Require(new_seg_name, "new name");
     if (!required.ok()) return required.error();
-    long long key = -1;
     for (Segment* source : sources.value()) {
       auto destination = ReadDestination(session, new_seg_name, source->owner());
       if (!destination.ok()) return destination.error();
       const Destination& d = destination.value();
       const std::string leaf = d.leaf ? *d.leaf : source->name();
-      Segment* target = leaf.empty() ? nullptr : d.owner->FindChild(leaf);
+      Segment* target = d.itself;
+      if (target == nullptr && !leaf.empty()) target = d.owner->FindChild(leaf);
       if (target == nullptr) target = &session.database().CreateChild(*d.owner, leaf);
-      key = target->key();
       auto copied = session.database().CopyContents(*source, *target);
-      if (!copied.ok()) return copied.error();
+      const bool copy_refused = !copied.ok() && copied.error().specific() != errc::kDestinationNotEmpty.specific;
+      key = copy_refused ? -1 : target->key();
+      if (!copied.ok()) return copied;
     }
-    return key;
+    return Done{};
   });
+  return key;
 }
 
 extern "C" long long HC_Copy_Geometry(long long key, char const* segment) {

@@ -104,12 +104,13 @@ extern "C" void HC_Delete_Segment(char const* segment) {
     if (matched.value().empty()) {
       return graphics::Error(graphics::errc::kNoSuchSegment, "no segment '" + std::string(segment) + "'");
     }
-    // By key: deleting one match may already have taken another below it.
+    // By library key: deleting one match may already have taken another
+    // below it.
     std::vector<long long> keys;
-    for (const Segment* found : matched.value()) keys.push_back(found->key());
+    for (const Segment* found : matched.value()) keys.push_back(found->library_key());
     Status outcome = Done{};
     for (long long key : keys) {
-      if (graphics::Entity* item = session.database().Find(key)) {
+      if (graphics::Entity* item = session.database().FindByLibraryKey(key)) {
         auto deleted = session.database().Delete(*item);
         if (!deleted.ok()) outcome = deleted;
       }

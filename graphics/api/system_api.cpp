@@ -2,6 +2,7 @@
 #include "api/arguments.h"
 #include "api/call.h"
 #include "hc/hc.h"
+#include "system/global_definitions.h"
 #include "system/system_settings.h"
 
 using graphics::Done;
@@ -30,12 +31,15 @@ extern "C" void HC_Show_One_System_Option(char const* name, char* value) {
 }
 
 // Everything back to how it began: the segment tree, every thread's open
-// segments and the system options. The error handlers stay, so a program's
+// segments, the system options and the process-wide definitions (global
+// textures, line styles, highlights, priorities, callback names). The
+// error handlers stay, so a program's
 // handler keeps receiving reports after it resets the system.
 extern "C" void HC_Reset_System(void) {
   Run(Access::kWrite, __func__, [&](Session& session) -> Status {
     session.Reset();
     system_settings::Reset();
+    graphics::ClearGlobalDefinitions();
     return Done{};
   });
 }

@@ -26,14 +26,14 @@ Result<AttributePath> SegmentPath(Session& session, const char* segment) {
   return AttributePath::Of(*found.value());
 }
 
-Result<std::string> Latin1(const char* encoding, const void* text) {
+Result<std::u32string> Characters(const char* encoding, const void* text) {
   auto required = api::Require(encoding, "encoding");
   if (!required.ok()) return required.error();
   required = api::Require(text, "text");
   if (!required.ok()) return required.error();
   const auto which = FindTextEncoding(encoding);
   if (!which) return Error(errc::kUnknownOption, "unrecognised text encoding '" + std::string(encoding) + "'");
-  return EncodedText::Read(*which, text).ToLatin1();
+  return EncodedText::Read(*which, text).ToCodePoints();
 }
 
 // Writes the extent of the text `text()` gives along the path `path()`
@@ -43,7 +43,7 @@ bool Extent(const char* routine, float* x, float* y, PathOf&& path_of, TextOf&& 
   return Run(Access::kRead, routine, false, [&](Session& session) -> Result<bool> {
     Result<AttributePath> path = path_of(session);
     if (!path.ok()) return path.error();
-    Result<std::string> text = text_of(session);
+    Result<std::u32string> text = text_of(session);
     if (!text.ok()) return text.error();
     auto extent = ComputeTextExtent(path.value(), text.value());
     if (!extent.ok()) return extent.error();
@@ -53,10 +53,10 @@ bool Extent(const char* routine, float* x, float* y, PathOf&& path_of, TextOf&& 
   });
 }
 
-Result<std::string> PlainText(const char* text) {
+Result<std::u32string> PlainText(const char* text) {
   auto required = api::Require(text, "text");
   if (!required.ok()) return required.error();
-  return std::string(text);
+  return Latin1Characters(text);
 }
 
 // Outline of `text` in `segment`; `write(outline)` fills the outputs.
@@ -86,7 +86,7 @@ extern "C" bool HC_Compute_Text_Extent_With_Enc(char const* segment, char const*
                                                 float* xfrac, float* yfrac) {
   return Extent(
       __func__, xfrac, yfrac, [&](Session& session) { return SegmentPath(session, segment); },
-      [&](Session&) { return Latin1(encoding, text); });
+      [&](Session&) { return Characters(encoding, text); });
 }
 
 extern "C" bool HC_Compute_Text_Extent_By_Path(int count, long long const* keys, char const* text, float* xfrac,
@@ -100,7 +100,7 @@ extern "C" bool HC_Compute_Text_Extent_Enc_Path(int count, long long const* keys
                                                 void const* text, float* xfrac, float* yfrac) {
   return Extent(
       __func__, xfrac, yfrac, [&](Session& session) { return api::NetPath(session, count, keys); },
-      [&](Session&) { return Latin1(encoding, text); });
+      [&](Session&) { return Characters(encoding, text); });
 }
 
 extern "C" bool HC_Compute_Text_Extent_By_Key(long long text_key, float* xfrac, float* yfrac) {
@@ -113,7 +113,7 @@ extern "C" bool HC_Compute_Text_Extent_By_Key(long long text_key, float* xfrac, 
         item = static_cast<const Text*>(found.value());
         return AttributePath::Of(*item->owner());
       },
-      [&](Session&) -> Result<std::string> { return item->text().ToLatin1(); });
+      [&](Session&) -> Result<std::u32string> { return item->text().ToCodePoints(); });
 }
 
 extern "C" void HC_Compute_Text_Outline_Size(char const* segment, char const* text, int* pcount, int* flist_length) {

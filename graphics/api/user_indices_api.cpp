@@ -3,6 +3,7 @@
 #include <map>
 
 #include "api/arguments.h"
+#include "api/attribute_target.h"
 #include "api/call.h"
 #include "api/net_path.h"
 #include "attributes/user_data.h"
@@ -16,8 +17,8 @@ using api::Write;
 namespace {
 
 const UserIndices* LocalIndices(Session& session) {
-  const Segment* segment = session.SegmentToRead();
-  return segment ? segment->attributes().Find<UserIndices>() : nullptr;
+  const AttributeStore* store = api::StoreToRead(session);
+  return store ? store->Find<UserIndices>() : nullptr;
 }
 
 // Every index set along the path, each once, the lowest setter winning.
@@ -25,8 +26,8 @@ Result<std::map<long, void*>> NetIndices(Session& session, int count, const long
   auto path = api::NetPath(session, count, keys);
   if (!path.ok()) return path.error();
   std::map<long, void*> net;
-  path.value().WalkHeard(AttributeKind::kUserOptions, "", [&](const Segment& segment) {
-    if (const auto* local = segment.attributes().Find<UserIndices>()) {
+  path.value().WalkHeard(AttributeKind::kUserOptions, "", [&](const AttributeStore& store) {
+    if (const auto* local = store.Find<UserIndices>()) {
       for (const auto& [index, value] : local->values) net[index] = value;
     }
   });
@@ -45,9 +46,7 @@ void WritePairs(const std::map<long, void*>& pairs, int* count, long* indices, v
 
 extern "C" void HC_Set_User_Index(long index, void* value) {
   Run(Access::kWrite, __func__, [&](Session& session) -> Status {
-    if (Segment* segment = session.SegmentToChange()) {
-      segment->MutableAttributes().FindOrAdd<UserIndices>().values[index] = value;
-    }
+    if (AttributeStore* store = api::TargetToChange(session).store) store->FindOrAdd<UserIndices>().values[index] = value;
     return Done{};
   });
 }
@@ -56,12 +55,11 @@ extern "C" void HC_Set_User_Index(long index, void* value) {
 // attribute.
 extern "C" void HC_UnSet_One_User_Index(long index) {
   Run(Access::kWrite, __func__, [&](Session& session) -> Status {
-    Segment* segment = session.SegmentToChange();
-    const UserIndices* local = segment ? segment->attributes().Find<UserIndices>() : nullptr;
-    if (local == nullptr || !local->values.contains(index)) return Done{};
-    UserIndices& changed = segment->MutableAttributes().FindOrAdd<UserIndices>();
-    changed.values.erase(index);
-    if (changed.values.empty()) segment->MutableAttributes().Remove(UserIndices::kKind);
+    AttributeStore* store = api::TargetToChange(session).store;
+    UserIndices* local = store ? &store->FindOrAdd<UserIndices>() : nullptr;
+    if (local == nullptr) return Done{};
+    local->values.erase(index);
+    if (local->values.empty()) store->Remove(UserIndices::kKind);
     return Done{};
   });
 }
@@ -124,7 +122,7 @@ extern "C" void HC_PShow_Net_User_Indices(int count, long long const* keys, int*
 
 extern "C" void HC_Set_User_Value(intptr_t data) {
   Run(Access::kWrite, __func__, [&](Session& session) -> Status {
-    if (Segment* segment = session.SegmentToChange()) segment->MutableAttributes().Set(UserValue{data});
+    if (AttributeStore* store = api::TargetToChange(session).store) store->Set(UserValue{data});
     return Done{};
   });
 }
@@ -132,8 +130,8 @@ extern "C" void HC_Set_User_Value(intptr_t data) {
 // Nothing set is reported and the output left alone.
 extern "C" void HC_Show_User_Value(intptr_t* data) {
   Run(Access::kRead, __func__, [&](Session& session) -> Status {
-    const Segment* segment = session.SegmentToRead();
-    const UserValue* local = segment ? segment->attributes().Find<UserValue>() : nullptr;
+    const AttributeStore* store = api::StoreToRead(session);
+    const UserValue* local = store ? store->Find<UserValue>() : nullptr;
     if (local == nullptr) return Error(errc::kNotSet, "no user value is set here");
     Write(data, local->value);
     return Done{};

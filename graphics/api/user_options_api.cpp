@@ -5,6 +5,7 @@
 #include <string>
 
 #include "api/arguments.h"
+#include "api/attribute_target.h"
 #include "api/call.h"
 #include "api/net_path.h"
 #include "attributes/user_data.h"
@@ -22,11 +23,12 @@ using api::WrittenLength;
 
 namespace {
 
-// The current segment's options: null under a dead frame or when none are set.
+// The current segment's or open geometry's options: null under a dead
+// frame or when none are set.
 template <typename T>
 const T* CurrentOptions(Session& session) {
-  const Segment* segment = session.SegmentToRead();
-  return segment ? segment->attributes().Find<T>() : nullptr;
+  const AttributeStore* store = api::StoreToRead(session);
+  return store ? store->Find<T>() : nullptr;
 }
 
 // One option's value; "" when it is not set, which is not an error.
@@ -44,9 +46,9 @@ void SetOptions(const char* routine, const void* list, std::string (*text)(const
     if (!required.ok()) return required.error();
     auto items = ParseOptionList(text(list));
     if (!items.ok()) return items.error();
-    Segment* segment = session.SegmentToChange();
-    if (segment == nullptr || items.value().empty()) return Done{};
-    segment->MutableAttributes().FindOrAdd<T>().Merge(items.value());
+    AttributeStore* store = api::TargetToChange(session).store;
+    if (store == nullptr || items.value().empty()) return Done{};
+    store->FindOrAdd<T>().Merge(items.value());
     return Done{};
   });
 }
@@ -83,12 +85,11 @@ void WithName(Access access, const char* routine, const void* which, std::string
 template <typename T>
 void UnSetOne(const char* routine, const void* which, std::string (*text)(const void*)) {
   WithName(Access::kWrite, routine, which, text, [&](Session& session, const std::string& name) {
-    Segment* segment = session.SegmentToChange();
-    if (segment == nullptr || segment->attributes().Find<T>() == nullptr) return;
-    auto& attributes = segment->MutableAttributes();
-    T& changed = attributes.FindOrAdd<T>();
+    AttributeStore* attributes = api::TargetToChange(session).store;
+    if (attributes == nullptr || attributes->Find<T>() == nullptr) return;
+    T& changed = attributes->FindOrAdd<T>();
     changed.Remove(NormalizeOptionName(name));
-    if (changed.empty()) attributes.Remove(T::kKind);
+    if (changed.empty()) attributes->Remove(T::kKind);
   });
 }
 

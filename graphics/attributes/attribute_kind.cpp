@@ -14,8 +14,9 @@ constexpr std::string_view kNames[] = {
     "camera",           "unicode options", "user indices",  "user value",
     "color",            "color map",       "local textures",
     "clip region",      "text region",
+    "geometry options", "normal",
 };
-static_assert(std::size(kNames) == static_cast<size_t>(AttributeKind::kTextRegion) + 1,
+static_assert(std::size(kNames) == static_cast<size_t>(AttributeKind::kNormal) + 1,
               "every attribute kind needs a name");
 
 }  // namespace

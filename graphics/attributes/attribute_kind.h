@@ -1,5 +1,5 @@
 #pragma once
-// Every kind of attribute a segment can hold locally, in the order contents
+// Every kind of attribute a segment or geometry can hold locally, in the order contents
 // listings give them. Each value type of the attribute store names its kind.
 #include <string_view>
 
@@ -39,6 +39,10 @@ enum class AttributeKind {
   kLocalTextures,
   kClipRegion,
   kTextRegion,
+  // Held by geometry only: options of a geometry item, and the normal of an
+  // open face or edge.
+  kGeometryOptions,
+  kNormal,
 };
 
 // The published name of the attribute ("modelling matrix").

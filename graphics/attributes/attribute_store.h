@@ -1,5 +1,5 @@
 #pragma once
-// The local attributes of one segment (or, later, of open geometry): at most
+// The local attributes of one segment, geometry item or open part: at most
 // one value per kind, in one generic store so copying, flushing, listing and
 // inheritance treat every family alike. A value type T joins by naming its
 // kind as T::kKind and being added to AttributeValue.
@@ -24,7 +24,7 @@ using AttributeValue =
                  TextFont, Conditions, Callbacks, LineWeight, EdgeWeight, MarkerSize, LinePattern, EdgePattern,
                  MarkerSymbol, Handedness, TextAlignment, WindowFrame, WindowPattern, TextPath, TextSpacing, Window,
                  TextureMatrix, Camera, UnicodeOptions, UserIndices, UserValue,
-                 ColorSettings, ColorMap, LocalTextures, ClipRegion, TextRegion>;
+                 ColorSettings, ColorMap, LocalTextures, ClipRegion, TextRegion, GeometryOptions, Normal>;
 
 class AttributeStore {
  public:

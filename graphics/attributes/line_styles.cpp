@@ -29,6 +29,8 @@ const std::string* FindLineStyle(std::string_view name) {
   return found == Styles().end() ? nullptr : &found->second;
 }
 
+void ClearLineStyles() { Styles().clear(); }
+
 std::vector<std::string> LineStyleNames() {
   std::vector<std::string> names;
   for (const auto& [name, definition] : Styles()) names.push_back(name);

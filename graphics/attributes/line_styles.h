@@ -17,5 +17,7 @@ bool UnDefineLineStyle(std::string_view name);
 // The definition, or null. Names compare without case.
 const std::string* FindLineStyle(std::string_view name);
 std::vector<std::string> LineStyleNames();
+// Forgets every definition.
+void ClearLineStyles();
 
 }  // namespace graphics

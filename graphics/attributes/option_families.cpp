@@ -142,6 +142,9 @@ constexpr OptionSpec kCallbackPoints[] = {
     {"draw dc face", V::kText},          {"draw dc edge", V::kText},        {"draw dc line", V::kText},
     {"select", V::kText}};
 
+// Options of geometry items; only lights take one so far.
+constexpr OptionSpec kGeometryOptions[] = {{"camera relative", V::kSwitch}};
+
 constexpr OptionFamily kFamilies[] = {
     {AttributeKind::kVisibility, "visibility", TypeOptions<V::kSwitch>::kOptions, V::kSwitch, kTypeGroups,
      "everything", kVisibilityDefaults},
@@ -153,6 +156,7 @@ constexpr OptionFamily kFamilies[] = {
     {AttributeKind::kTextFont, "text font", kTextFont, V::kSwitch, {}, {}, kTextFontDefaults},
     {AttributeKind::kConditions, "conditions", {}, V::kSwitch, {}, {}, {}},
     {AttributeKind::kCallbacks, "callback", kCallbackPoints, V::kText, {}, {}, {}},
+    {AttributeKind::kGeometryOptions, "geometry options", kGeometryOptions, V::kSwitch, {}, {}, {}},
 };
 
 }  // namespace

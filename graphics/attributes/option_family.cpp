@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "attributes/option_parts.h"
 #include "strings/quoting.h"
 #include "strings/text.h"
 
@@ -169,9 +170,45 @@ Result<std::string> SelectActionsValue(std::string_view name, std::string_view t
 }
 
 // The stored form of one item for option `name`.
-Result<std::string> StoredValue(OptionValue rule, const std::string& name, const OptionItem& item,
-                                const std::string* existing) {
+// A switch with parts: "on", "off", or each part on or off, shown
+// "(part,no part,...)" in vocabulary order. A list changes the parts it
+// names; the others keep their state, taken from "on" or "off" (unset
+// counts as on). When all parts agree the value folds to "on" or "off".
+Result<std::string> PartSwitchesValue(std::span<const std::string_view> parts, const std::string& name,
+                                      std::string_view body, const std::string* existing) {
+  std::vector<bool> state(parts.size(), existing == nullptr || *existing != "off");
+  if (const auto stored = existing ? SubListBody(*existing) : std::nullopt) {
+    auto before = ParseOptionList(*stored);
+    if (!before.ok()) return before.error();
+    for (const OptionItem& item : before.value()) {
+      if (auto index = FindOptionName(item.name, parts)) state[*index] = !item.negated;
+    }
+  }
+  auto items = ParseOptionList(body);
+  if (!items.ok()) return items.error();
+  for (const OptionItem& item : items.value()) {
+    const auto index = FindOptionName(item.name, parts);
+    const auto on = item.value ? ParseSwitch(*item.value) : std::optional<bool>(!item.negated);
+    if (!index || !on) return WrongValue(name, std::string(body), "on, off or a list of its parts");
+    state[*index] = *on;
+  }
+  if (std::all_of(state.begin(), state.end(), [&](bool on) { return on == state.front(); })) {
+    return std::string(state.front() ? "on" : "off");
+  }
+  std::string list;
+  for (size_t i = 0; i < parts.size(); ++i) {
+    if (!list.empty()) list += ',';
+    list += (state[i] ? "" : "no ") + std::string(parts[i]);
+  }
+  return '(' + list + ')';
+}
+
+Result<std::string> StoredValue(OptionValue rule, std::span<const std::string_view> parts, const std::string& name,
+                                const OptionItem& item, const std::string* existing) {
   if (item.negated) return std::string("off");
+  if (!parts.empty() && item.value && SubListBody(*item.value)) {
+    return PartSwitchesValue(parts, name, *SubListBody(*item.value), existing);
+  }
   if (!item.value) {
     if (rule == OptionValue::kLockList) return MergeLocks(existing, "everything");
     return std::string(rule == OptionValue::kSelectActions ? "v" : "on");
@@ -215,12 +252,13 @@ std::string FormatEntry(std::string_view name, std::string_view value) {
   return shown_name + '=' + std::string(single ? body : value);
 }
 
-}  // namespace
-
-Result<std::vector<std::string>> ResolveOptionName(const OptionFamily& family, std::string_view name) {
-  const std::string normal = NormalizeOptionName(name);
+// The canonical names of a name already normalised (quotes removed once:
+// removing them again would eat quote characters the name holds). `written`
+// is the name as given, for the error.
+Result<std::vector<std::string>> ResolveNormalName(const OptionFamily& family, const std::string& normal,
+                                                   std::string_view written) {
   if (family.options.empty()) {
-    if (normal.empty()) return UnknownName(family, name);
+    if (normal.empty()) return UnknownName(family, written);
     return std::vector<std::string>{normal};
   }
   for (const OptionGroup& group : family.groups) {
@@ -231,7 +269,13 @@ Result<std::vector<std::string>> ResolveOptionName(const OptionFamily& family, s
     const std::string_view names[] = {spec.name};
     if (FindOptionName(normal, names)) return std::vector<std::string>{std::string(spec.name)};
   }
-  return UnknownName(family, name);
+  return UnknownName(family, written);
+}
+
+}  // namespace
+
+Result<std::vector<std::string>> ResolveOptionName(const OptionFamily& family, std::string_view name) {
+  return ResolveNormalName(family, NormalizeOptionName(name), name);
 }
 
 void OptionSettings::Put(const OptionFamily& family, std::string name, std::string value) {
@@ -259,17 +303,18 @@ Status OptionSettings::Merge(const OptionFamily& family, std::string_view list) 
     const bool bare_switch = !family.bare_switch_group.empty() && !item.value && !item.negated &&
                              (item.name == "on" || item.name == "off");
     if (bare_switch) {
-      auto group = ResolveOptionName(family, family.bare_switch_group);
+      auto group = ResolveNormalName(family, std::string(family.bare_switch_group), family.bare_switch_group);
       if (!group.ok()) return group.error();
       names = std::move(group.value());
       effective.negated = item.name == "off";
     } else {
-      auto resolved = ResolveOptionName(family, item.name);
+      auto resolved = ResolveNormalName(family, item.name, item.name);
       if (!resolved.ok()) return resolved.error();
       names = std::move(resolved.value());
     }
     for (std::string& name : names) {
-      auto value = StoredValue(RuleOf(family, name), name, effective, updated.Find(name));
+      auto value =
+          StoredValue(RuleOf(family, name), OptionParts(family.kind, name), name, effective, updated.Find(name));
       if (!value.ok()) return value.error();
       updated.Put(family, std::move(name), std::move(value.value()));
     }
@@ -282,7 +327,7 @@ Status OptionSettings::Remove(const OptionFamily& family, std::string_view name)
   auto items = ParseOptionList(name);
   if (!items.ok()) return items.error();
   for (const OptionItem& item : items.value()) {
-    auto names = ResolveOptionName(family, item.name);
+    auto names = ResolveNormalName(family, item.name, item.name);
     if (!names.ok()) return names.error();
     for (const std::string& canonical : names.value()) {
       auto found = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& e) { return e.name == canonical; });

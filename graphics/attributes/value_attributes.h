@@ -41,6 +41,7 @@ using DriverOptions = OptionAttribute<AttributeKind::kDriverOptions>;
 using TextFont = OptionAttribute<AttributeKind::kTextFont>;
 using Conditions = OptionAttribute<AttributeKind::kConditions>;
 using Callbacks = OptionAttribute<AttributeKind::kCallbacks>;
+using GeometryOptions = OptionAttribute<AttributeKind::kGeometryOptions>;
 
 using LineWeight = ValueAttribute<AttributeKind::kLineWeight, Measure>;
 using EdgeWeight = ValueAttribute<AttributeKind::kEdgeWeight, Measure>;
@@ -56,5 +57,6 @@ using TextPath = ValueAttribute<AttributeKind::kTextPath, Point>;
 using TextSpacing = ValueAttribute<AttributeKind::kTextSpacing, float>;
 using Window = ValueAttribute<AttributeKind::kWindow, WindowExtent>;
 using TextureMatrix = ValueAttribute<AttributeKind::kTextureMatrix, Matrix>;
+using Normal = ValueAttribute<AttributeKind::kNormal, Point>;
 
 }  // namespace graphics

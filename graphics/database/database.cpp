@@ -62,10 +62,26 @@ void Database::CreatePredefined() {
   }
 }
 
+namespace {
+
+thread_local const Segment* local_key_context = nullptr;
+
+}  // namespace
+
+LocalKeyScope::LocalKeyScope(const Segment* current) : previous_(local_key_context) { local_key_context = current; }
+
+LocalKeyScope::~LocalKeyScope() { local_key_context = previous_; }
+
+const Segment* LocalKeyScope::Current() { return local_key_context; }
+
 Entity* Database::Find(long long key) const {
   if (key >= 0) {
-    auto found = user_keys_.find(key);
-    return found == user_keys_.end() ? nullptr : found->second;
+    if (const Segment* context = LocalKeyScope::Current()) {
+      auto local = local_keys_.find({context, key});
+      if (local != local_keys_.end()) return local->second;
+    }
+    auto found = global_keys_.find(key);
+    return found == global_keys_.end() ? nullptr : found->second;
   }
   Entity* item = keys_.Find(key);
   // A renumbered item no longer answers to its library key.
@@ -78,23 +94,50 @@ void Database::Register(Entity& item) {
 
 void Database::Retire(const Entity& item) {
   keys_.Retire(item.library_key_);
-  if (item.key_ != item.library_key_) user_keys_.erase(item.key_);
+  DropProgramKey(item);
+}
+
+void Database::DropProgramKey(const Entity& item) {
+  switch (item.scope_) {
+    case KeyScope::kLibrary:
+      break;
+    case KeyScope::kLocal:
+      local_keys_.erase({item.owner_, item.key_});
+      break;
+    case KeyScope::kGlobal:
+      global_keys_.erase(item.key_);
+      break;
+  }
 }
 
 Result<long long> Database::Renumber(Entity& item, long long new_key, KeyScope scope) {
   if (new_key == -1) {
-    user_keys_.erase(item.key_);
+    DropProgramKey(item);
     item.key_ = item.library_key_;
     item.scope_ = KeyScope::kLibrary;
     return item.key_;
   }
   if (new_key < 0) return Error(errc::kOutOfRange, "a program's key must be 0 or more, or -1 to restore");
-  auto taken = user_keys_.find(new_key);
-  if (taken != user_keys_.end() && taken->second != &item) {
+  if (scope == KeyScope::kLocal && item.owner_ == nullptr) {
+    return Error(errc::kWrongKeyKind, "the root segment has no owner to take a local key in");
+  }
+  const Entity* holder = nullptr;
+  if (scope == KeyScope::kLocal) {
+    auto taken = local_keys_.find({item.owner_, new_key});
+    if (taken != local_keys_.end()) holder = taken->second;
+  } else {
+    auto taken = global_keys_.find(new_key);
+    if (taken != global_keys_.end()) holder = taken->second;
+  }
+  if (holder != nullptr && holder != &item) {
     return Error(errc::kOutOfRange, "key " + std::to_string(new_key) + " is in use");
   }
-  if (item.key_ != item.library_key_) user_keys_.erase(item.key_);
-  user_keys_[new_key] = &item;
+  DropProgramKey(item);
+  if (scope == KeyScope::kLocal) {
+    local_keys_[{item.owner_, new_key}] = &item;
+  } else {
+    global_keys_[new_key] = &item;
+  }
   item.key_ = new_key;
   item.scope_ = scope;
   return new_key;
@@ -197,7 +240,8 @@ void Database::RetireSubtree(Segment& top) {
 void Database::Reset() {
   root_.reset();
   keys_.RetireAll();
-  user_keys_.clear();
+  global_keys_.clear();
+  local_keys_.clear();
   aliases_ = AliasTable();
   ++generation_;
   CreatePredefined();

@@ -3,6 +3,7 @@
 // thread-safe by itself: the engine guards it with one reader/writer lock.
 // Operations return errors instead of reporting them.
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,9 +28,14 @@ class Database {
   Segment& root() { return *root_; }
   const AliasTable& aliases() const { return aliases_; }
 
-  // The live item of `key` (a library key, or one the program gave with
-  // Renumber), or null.
+  // The live item of `key`, or null: a library key, or one the program gave
+  // with Renumber. A program's key is looked for first among the local
+  // keys of the items the calling thread's current segment owns (see
+  // LocalKeyScope), then among the global keys.
   Entity* Find(long long key) const;
+  // The live item the library issued `key` to, renumbered or not; null
+  // once it is deleted. For holding on to items across deletions.
+  Entity* FindByLibraryKey(long long key) const { return keys_.Find(key); }
   // The live item of `key`, or the error saying the key is invalid.
   Result<Entity*> FindItem(long long key) const;
   // The segment of `key`, or why there is none.
@@ -53,8 +59,8 @@ class Database {
 
   // Moves a segment (with its subtree, under `name`, empty for anonymous)
   // or a geometry item into `new_owner`; keys do not change. Refused for
-  // the root, for open geometry, for a move below itself and when a sibling
-  // already has the name.
+  // the root, for open geometry, for a move below itself, when a sibling
+  // already has the name and when the item's local key is taken there.
   Status Move(Entity& item, Segment& new_owner, std::string name = "");
   // A copy of `item` in `owner`, with a new key.
   Geometry& CopyGeometry(const Geometry& item, Segment& owner);
@@ -66,9 +72,10 @@ class Database {
   AliasTable& mutable_aliases() { return aliases_; }
 
   // Gives `item` the program's key `new_key` (0 or more) in `scope`, or
-  // with -1 its library key back; the key it had stops working. Program
-  // keys are unique in the whole database, local ones included. Gives the
-  // key in force.
+  // with -1 its library key back; the key it had stops working. A global
+  // key is unique in the whole database; a local one among the items of
+  // the item's owner (the root cannot take one), and there it hides a
+  // global key of the same value. Gives the key in force.
   Result<long long> Renumber(Entity& item, long long new_key, KeyScope scope);
 
   // Back to the predefined segments. Keys issued before stay invalid.
@@ -87,13 +94,37 @@ class Database {
   void Register(Entity& item);
   // Makes every key of `item` invalid for good.
   void Retire(const Entity& item);
+  // Forgets the program's key of `item`, if it has one.
+  void DropProgramKey(const Entity& item);
+  // Files a local key of `item` under `new_owner`, where it is about to
+  // move; refused when an item there already answers to it.
+  Status RehomeLocalKey(Entity& item, const Segment& new_owner);
   void RetireSubtree(Segment& top);
 
   KeyTable keys_;
-  std::unordered_map<long long, Entity*> user_keys_;
+  std::unordered_map<long long, Entity*> global_keys_;
+  // Local keys, by the owner they are local to.
+  std::map<std::pair<const Segment*, long long>, Entity*> local_keys_;
   AliasTable aliases_;
   std::unique_ptr<Segment> root_;
   uint64_t generation_ = 0;
+};
+
+// While it lives, local keys the calling thread looks up resolve among the
+// items `current` owns: the current segment of the call being served (null
+// when nothing is open). Scopes nest; the innermost counts.
+class LocalKeyScope {
+ public:
+  explicit LocalKeyScope(const Segment* current);
+  ~LocalKeyScope();
+  LocalKeyScope(const LocalKeyScope&) = delete;
+  LocalKeyScope& operator=(const LocalKeyScope&) = delete;
+
+  // The segment of the innermost scope on this thread; null outside any.
+  static const Segment* Current();
+
+ private:
+  const Segment* previous_;
 };
 
 // Whether drawing `from` would reach `goal`: `goal` is `from` or lies below

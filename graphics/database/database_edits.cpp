@@ -18,6 +18,8 @@ Status Database::Move(Entity& item, Segment& new_owner, std::string name) {
   if (item.kind() == EntityKind::kGeometry) {
     auto& geometry = static_cast<Geometry&>(item);
     if (geometry.open_frames() > 0) return Error(errc::kItemOpen, "open geometry cannot be moved");
+    auto rehomed = RehomeLocalKey(item, new_owner);
+    if (!rehomed.ok()) return rehomed;
     new_owner.AddGeometry(geometry.owner()->RemoveGeometry(geometry));
     return Done{};
   }
@@ -36,9 +38,21 @@ Status Database::Move(Entity& item, Segment& new_owner, std::string name) {
     new_owner.RenameChild(segment, std::move(name));
     return Done{};
   }
+  auto rehomed = RehomeLocalKey(item, new_owner);
+  if (!rehomed.ok()) return rehomed;
   std::unique_ptr<Segment> moved = segment.owner()->RemoveChild(segment);
   new_owner.RenameChild(*moved, std::move(name));
   new_owner.AddChild(std::move(moved));
+  return Done{};
+}
+
+Status Database::RehomeLocalKey(Entity& item, const Segment& new_owner) {
+  if (item.scope_ != KeyScope::kLocal || item.owner_ == &new_owner) return Done{};
+  if (local_keys_.contains({&new_owner, item.key_})) {
+    return Error(errc::kOutOfRange, "local key " + std::to_string(item.key_) + " is in use in " + FullPath(new_owner));
+  }
+  local_keys_.erase({item.owner_, item.key_});
+  local_keys_[{&new_owner, item.key_}] = &item;
   return Done{};
 }
 

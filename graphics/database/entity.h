@@ -22,6 +22,9 @@ class Entity {
   // 0 until the database registers the item.
   long long key() const { return key_; }
   KeyScope key_scope() const { return scope_; }
+  // The key the library issued, kept through renumbering: it names the
+  // item unambiguously wherever a program's local key would not.
+  long long library_key() const { return library_key_; }
   // Null for the root, and for an item not yet placed in a segment.
   Segment* owner() const { return owner_; }
 

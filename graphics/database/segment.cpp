@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "engine/system_switches.h"
+
 namespace graphics {
 
 Segment::Segment(std::string name) : Entity(EntityKind::kSegment), name_(std::move(name)) {}
@@ -30,6 +32,7 @@ Segment& Segment::AddChild(std::unique_ptr<Segment> child) {
   Segment& added = children_.PushBack(std::move(child));
   if (!added.anonymous()) children_by_name_.emplace(added.name_, &added);
   MarkBoundsDirty();
+  NoteChange();
   return added;
 }
 
@@ -37,6 +40,7 @@ std::unique_ptr<Segment> Segment::RemoveChild(Segment& child) {
   if (!child.anonymous()) children_by_name_.erase(child.name_);
   child.owner_ = nullptr;
   MarkBoundsDirty();
+  NoteChange();
   return children_.Remove(child);
 }
 
@@ -44,6 +48,7 @@ void Segment::RenameChild(Segment& child, std::string name) {
   if (!child.anonymous()) children_by_name_.erase(child.name_);
   child.name_ = std::move(name);
   if (!child.anonymous()) children_by_name_.emplace(child.name_, &child);
+  NoteChange();
 }
 
 bool Segment::IsEmpty() const {
@@ -53,12 +58,14 @@ bool Segment::IsEmpty() const {
 Geometry& Segment::AddGeometry(std::unique_ptr<Geometry> item) {
   item->owner_ = this;
   MarkBoundsDirty();
+  NoteChange();
   return geometry_.PushBack(std::move(item));
 }
 
 std::unique_ptr<Geometry> Segment::RemoveGeometry(Geometry& item) {
   item.owner_ = nullptr;
   MarkBoundsDirty();
+  NoteChange();
   return geometry_.Remove(item);
 }
 
@@ -66,6 +73,7 @@ Reference& Segment::AddReference(std::unique_ptr<Reference> reference) {
   reference->owner_ = this;
   reference->target().referrers_.push_back(reference.get());
   MarkBoundsDirty();
+  NoteChange();
   return (reference->kind() == EntityKind::kInclude ? includes_ : styles_).PushBack(std::move(reference));
 }
 
@@ -74,10 +82,12 @@ std::unique_ptr<Reference> Segment::RemoveReference(Reference& reference) {
   std::erase(referrers, &reference);
   reference.owner_ = nullptr;
   MarkBoundsDirty();
+  NoteChange();
   return (reference.kind() == EntityKind::kInclude ? includes_ : styles_).Remove(reference);
 }
 
 void Segment::BringToFront(Entity& item) {
+  NoteChange();
   switch (item.kind()) {
     case EntityKind::kSegment:
       children_.PushBack(children_.Remove(static_cast<Segment&>(item)));
@@ -99,6 +109,7 @@ AttributeStore& Segment::MutableAttributes() {
   for (Reference* referrer : referrers_) {
     if (referrer->kind() == EntityKind::kInclude) referrer->owner()->MarkBoundsDirty();
   }
+  NoteChange();
   return attributes_;
 }
 
@@ -140,6 +151,13 @@ void Segment::MarkBoundsDirty() {
       }
     }
   }
+}
+
+// Once marked, a segment stays marked until the marks are cleared, so the
+// system option is read at most once per segment between clearings.
+void Segment::NoteChange() {
+  if (redraw_marks_.redraw != RedrawMarks::Redraw::kNone || !UpdateControlOn()) return;
+  redraw_marks_.Raise(RedrawMarks::Redraw::kPartial);
 }
 
 std::vector<Segment*> DepthFirst(Segment& top) {

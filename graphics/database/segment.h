@@ -15,6 +15,7 @@
 #include "attributes/attribute_store.h"
 #include "database/entity.h"
 #include "database/owned_list.h"
+#include "database/redraw_marks.h"
 #include "database/reference.h"
 #include "geometry/geometry.h"
 #include "math/bounds.h"
@@ -73,6 +74,13 @@ class Segment final : public Entity, public ListLink<Segment> {
   Bounds PlacedBounds() const;
   void MarkBoundsDirty();
 
+  // What the next update must redraw here. Changes to the segment raise
+  // the redraw to partial while the "update control" system option is on.
+  const RedrawMarks& redraw_marks() const { return redraw_marks_; }
+  RedrawMarks& mutable_redraw_marks() { return redraw_marks_; }
+  // Called by everything that changes what the segment draws.
+  void NoteChange();
+
   // A bounding sphere set by the program: it stands for the kept volume
   // until anything in the subtree changes or it is unset.
   struct BoundingSphere {
@@ -111,6 +119,7 @@ class Segment final : public Entity, public ListLink<Segment> {
   mutable Bounds bounds_;
   mutable bool bounds_dirty_ = true;
   std::optional<BoundingSphere> explicit_sphere_;
+  RedrawMarks redraw_marks_;
   int open_frames_ = 0;
   long long ink_key_ = 0;
 };

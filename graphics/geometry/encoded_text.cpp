@@ -116,7 +116,7 @@ void EncodedText::CopyWithTerminator(void* out) const {
   std::memset(bytes + bytes_.size(), 0, UnitSize(encoding_));
 }
 
-std::string EncodedText::ToLatin1() const {
+std::u32string EncodedText::ToCodePoints() const {
   const std::vector<uint32_t> units = Units(bytes_, UnitSize(encoding_));
   std::vector<uint32_t> code_points;
   switch (encoding_) {
@@ -132,8 +132,12 @@ std::string EncodedText::ToLatin1() const {
       code_points = DecodeUtf8(units);
       break;
   }
+  return std::u32string(code_points.begin(), code_points.end());
+}
+
+std::string EncodedText::ToLatin1() const {
   std::string latin1;
-  for (uint32_t c : code_points) latin1 += static_cast<char>(c <= 0xff ? c : kReplacement);
+  for (char32_t c : ToCodePoints()) latin1 += static_cast<char>(c <= 0xff ? c : kReplacement);
   return latin1;
 }
 

@@ -28,6 +28,9 @@ class EncodedText {
   size_t byte_length() const { return bytes_.size(); }
   // The units followed by one zero unit.
   void CopyWithTerminator(void* out) const;
+  // The characters: a surrogate pair or a UTF-8 sequence is one, a
+  // malformed unit or sequence one '?'.
+  std::u32string ToCodePoints() const;
   // The text in ISO Latin-1: characters beyond it, and malformed sequences,
   // become '?'.
   std::string ToLatin1() const;

@@ -5,7 +5,9 @@
 namespace graphics {
 
 void Geometry::MarkChanged() {
-  if (owner() != nullptr) owner()->MarkBoundsDirty();
+  if (owner() == nullptr) return;
+  owner()->MarkBoundsDirty();
+  owner()->NoteChange();
 }
 
 }  // namespace graphics

@@ -36,6 +36,10 @@ void Surface::SetVertexNormals(size_t offset, std::span<const Point> normals) {
   Assign(vertex_normals_, points_.size(), offset, normals);
 }
 
+void Surface::UnSetVertexNormal(size_t offset) {
+  if (offset < vertex_normals_.size()) vertex_normals_[offset].reset();
+}
+
 std::vector<Point> Surface::NetVertexNormals(size_t offset, size_t count) const {
   std::vector<Vec3> sums(count);
   ForEachFace([&](std::span<const int> face) {

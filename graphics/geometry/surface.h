@@ -33,6 +33,8 @@ class Surface : public Geometry {
   // nullopt.
   const std::vector<std::optional<Point>>& vertex_normals() const { return vertex_normals_; }
   void SetVertexNormals(size_t offset, std::span<const Point> normals);
+  // The vertex's normal back to the computed one.
+  void UnSetVertexNormal(size_t offset);
   // The explicit normal of each vertex in the range, else the area-weighted
   // mean of the normals of the faces around it; (0,0,0) for a vertex in no
   // face.

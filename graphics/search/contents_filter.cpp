@@ -13,9 +13,13 @@ namespace {
 
 constexpr int kAttributeKinds = static_cast<int>(std::variant_size_v<AttributeValue>);
 
-// `word` without a trailing plural "s", when that names something.
+// One word in singular or plural: "style" and "styles", "condition" and
+// "conditions" name the same thing.
 bool SameWord(std::string_view word, std::string_view name) {
-  return word == name || (word.size() == name.size() + 1 && word.back() == 's' && word.substr(0, name.size()) == name);
+  auto plural_of = [](std::string_view plural, std::string_view singular) {
+    return plural.size() == singular.size() + 1 && plural.back() == 's' && plural.substr(0, singular.size()) == singular;
+  };
+  return word == name || plural_of(word, name) || plural_of(name, word);
 }
 
 std::optional<GeometryType> GeometryWord(std::string_view word) {
@@ -46,13 +50,16 @@ Result<ContentsFilter::Rule> ContentsFilter::ParseRule(std::string_view text) {
     rule.keep = false;
     word = NormalizeWord(std::string_view(word).substr(3));
   }
-  const auto sides = SplitTopLevel(word, '=');
-  const std::string name = NormalizeWord(sides[0]);
+  // Only the first "=" separates: an option may have a value of its own
+  // ("color = edges = diffuse").
+  const auto first_part = SplitTopLevel(word, '=')[0];
+  const std::string name = NormalizeWord(first_part);
+  const bool has_option = first_part.size() < word.size();
   static constexpr std::pair<std::string_view, Target> kWords[] = {
       {"everything", Target::kEverything}, {"geometry", Target::kGeometry},   {"light", Target::kLight},
       {"segment", Target::kSegment},       {"subsegment", Target::kSubsegment}, {"include", Target::kInclude},
       {"style", Target::kStyle},           {"attribute", Target::kAttributes}};
-  if (sides.size() == 1) {
+  if (!has_option) {
     for (const auto& [w, target] : kWords) {
       if (SameWord(name, w)) {
         rule.target = target;
@@ -65,10 +72,10 @@ Result<ContentsFilter::Rule> ContentsFilter::ParseRule(std::string_view text) {
       return rule;
     }
   }
-  if (auto kind = AttributeWord(name); kind && sides.size() <= 2) {
+  if (auto kind = AttributeWord(name)) {
     rule.target = Target::kAttribute;
     rule.attribute = *kind;
-    if (sides.size() == 2) rule.option = NormalizeOptionName(sides[1]);
+    if (has_option) rule.option = NormalizeOptionName(std::string_view(word).substr(first_part.size() + 1));
     return rule;
   }
   return Error(errc::kUnknownOption, "unrecognised type '" + std::string(TrimBlanks(text)) + "'");
@@ -139,12 +146,47 @@ bool ContentsFilter::KeepsAttribute(const Segment& segment, AttributeKind kind) 
   return keep;
 }
 
+std::vector<AttributeKind> ContentsFilter::WholeAttributesNamed() const {
+  std::vector<AttributeKind> kinds;
+  for (const Rule& rule : rules_) {
+    if (rule.target != Target::kAttribute || !rule.option.empty()) continue;
+    std::erase(kinds, rule.attribute);
+    if (rule.keep) kinds.push_back(rule.attribute);
+  }
+  return kinds;
+}
+
 std::vector<AttributeKind> ContentsFilter::Attributes(const Segment& segment) const {
   std::vector<AttributeKind> kinds;
   for (int k = 0; k < kAttributeKinds; ++k) {
     if (KeepsAttribute(segment, static_cast<AttributeKind>(k))) kinds.push_back(static_cast<AttributeKind>(k));
   }
   return kinds;
+}
+
+std::vector<ContentsFilter::AttributeRemoval> ContentsFilter::Removals(const Segment& segment) const {
+  std::vector<AttributeRemoval> removals;
+  for (int k = 0; k < kAttributeKinds; ++k) {
+    const auto kind = static_cast<AttributeKind>(k);
+    bool whole = false;
+    std::vector<std::string> parts;
+    for (const Rule& rule : rules_) {
+      const bool names_kind = rule.target == Target::kAttribute && rule.attribute == kind;
+      if (names_kind && !rule.option.empty()) {
+        std::erase(parts, rule.option);
+        if (rule.keep && !whole) parts.push_back(rule.option);
+      } else if (names_kind || rule.target == Target::kEverything || rule.target == Target::kAttributes) {
+        whole = rule.keep;
+        parts.clear();
+      }
+    }
+    // Named parts are listed even when the attribute is not set here, so
+    // the flush checks them all the same.
+    if ((whole && segment.attributes().Has(kind)) || !parts.empty()) {
+      removals.push_back(AttributeRemoval{kind, std::move(parts)});
+    }
+  }
+  return removals;
 }
 
 std::vector<Entity*> ContentsFilter::KeyedItems(const Segment& segment) const {

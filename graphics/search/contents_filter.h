@@ -36,6 +36,21 @@ class ContentsFilter {
   std::vector<Entity*> KeyedItems(const Segment& segment) const;
   // The local attribute kinds of `segment` the filter keeps.
   std::vector<AttributeKind> Attributes(const Segment& segment) const;
+  // The attribute kinds the filter names as a whole ("color", not
+  // "color = faces"), net of later "no" words.
+  std::vector<AttributeKind> WholeAttributesNamed() const;
+
+  // What a flush takes of one local attribute: all of it when `parts` is
+  // empty, else those options ("attribute = option").
+  struct AttributeRemoval {
+    AttributeKind kind;
+    std::vector<std::string> parts;
+  };
+  // The removals a flush with this filter makes on `segment`, in attribute
+  // kind order. Later words overrule earlier ones: a whole attribute named
+  // after some of its parts takes it all; "no attribute = option" keeps
+  // back a part named before, but not out of a whole attribute.
+  std::vector<AttributeRemoval> Removals(const Segment& segment) const;
 
  private:
   enum class Target { kEverything, kGeometry, kGeometryType, kLight, kSegment, kSubsegment, kInclude, kStyle,

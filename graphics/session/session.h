@@ -14,7 +14,10 @@ namespace graphics {
 
 class Session {
  public:
-  Session(Database& database, OpenStack& open_stack) : database_(database), open_stack_(open_stack) {}
+  // Local keys resolve among the items of the segment current when the
+  // session starts, for as long as it lives.
+  Session(Database& database, OpenStack& open_stack)
+      : database_(database), open_stack_(open_stack), local_keys_(open_stack.top()) {}
 
   Database& database() { return database_; }
   OpenStack& open_stack() { return open_stack_; }
@@ -71,6 +74,7 @@ class Session {
 
   Database& database_;
   OpenStack& open_stack_;
+  LocalKeyScope local_keys_;
 };
 
 }  // namespace graphics

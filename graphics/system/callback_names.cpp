@@ -45,4 +45,6 @@ Result<HC_Callback> Find(std::string_view name) {
   return found->second;
 }
 
+void Clear() { Table().clear(); }
+
 }  // namespace graphics::callback_names

@@ -16,5 +16,7 @@ Status Define(std::string_view name, HC_Callback function);
 Status UnDefine(std::string_view name);
 // The function of a defined name; an error for an unknown one.
 Result<HC_Callback> Find(std::string_view name);
+// Forgets every name.
+void Clear();
 
 }  // namespace graphics::callback_names

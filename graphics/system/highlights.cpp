@@ -21,4 +21,6 @@ bool RemoveHighlight(const Highlight& highlight) { return std::erase(Table(), hi
 
 const std::vector<Highlight>& Highlights() { return Table(); }
 
+void ClearHighlights() { Table().clear(); }
+
 }  // namespace graphics

@@ -19,5 +19,7 @@ void AddHighlight(Highlight highlight);
 // Whether a matching highlight was there.
 bool RemoveHighlight(const Highlight& highlight);
 const std::vector<Highlight>& Highlights();
+// Removes every highlight.
+void ClearHighlights();
 
 }  // namespace graphics

@@ -102,6 +102,18 @@ double SignedArea(const std::vector<Point>& contour) {
 
 }  // namespace
 
+namespace {
+
+// The advance of glyph `code` in ems, 0 when the face lacks it. Loads the
+// glyph, so calls on a shared face hold its glyph lock.
+double LoadAdvance(FT_Face face, double units_per_em, char32_t code) {
+  const FT_UInt glyph = FT_Get_Char_Index(face, code);
+  if (glyph == 0 || FT_Load_Glyph(face, glyph, FT_LOAD_NO_SCALE) != 0) return 0;
+  return face->glyph->advance.x / units_per_em;
+}
+
+}  // namespace
+
 struct FontMetrics::Face {
   FT_Library library = nullptr;
   FT_Face face = nullptr;
@@ -109,9 +121,11 @@ struct FontMetrics::Face {
   double line_height = 1;  // ascender to descender plus gap, in ems
   // Advances of the 256 Latin-1 characters, in ems; measured once.
   std::array<double, 256> advances{};
+  // Advances of the other characters met so far, under glyph_mutex.
+  std::map<char32_t, double> other_advances;
   // FreeType faces are not safe to share between threads while loading
-  // glyphs; outlines take this lock.
-  mutable std::mutex glyph_mutex;
+  // glyphs; outlines and new advances take this lock.
+  std::mutex glyph_mutex;
 
   ~Face() {
     if (face != nullptr) FT_Done_Face(face);
@@ -150,11 +164,8 @@ Result<const FontMetrics*> FontMetrics::For(const FontChoice& choice) {
   }
   face->units_per_em = face->face->units_per_EM;
   face->line_height = face->face->height / face->units_per_em;
-  for (unsigned c = 0; c < 256; ++c) {
-    const FT_UInt glyph = FT_Get_Char_Index(face->face, c);
-    if (glyph != 0 && FT_Load_Glyph(face->face, glyph, FT_LOAD_NO_SCALE) == 0) {
-      face->advances[c] = face->face->glyph->advance.x / face->units_per_em;
-    }
+  for (char32_t c = 0; c < face->advances.size(); ++c) {
+    face->advances[c] = LoadAdvance(face->face, face->units_per_em, c);
   }
   auto metrics = std::unique_ptr<FontMetrics>(new FontMetrics(std::move(face)));
   const FontMetrics* result = metrics.get();
@@ -162,25 +173,33 @@ Result<const FontMetrics*> FontMetrics::For(const FontChoice& choice) {
   return result;
 }
 
-TextSize FontMetrics::Measure(std::string_view latin1, double spacing, double line_spacing) const {
+double FontMetrics::Advance(char32_t c) const {
+  if (c < face_->advances.size()) return face_->advances[c];
+  std::lock_guard lock(face_->glyph_mutex);
+  auto [found, added] = face_->other_advances.try_emplace(c, 0);
+  if (added) found->second = LoadAdvance(face_->face, face_->units_per_em, c);
+  return found->second;
+}
+
+TextSize FontMetrics::Measure(std::u32string_view text, double spacing, double line_spacing) const {
   TextSize size;
   double line = 0;
   int lines = 1;
-  for (char c : latin1) {
+  for (char32_t c : text) {
     if (c == '\n') {
       size.width = std::max(size.width, line);
       line = 0;
       ++lines;
       continue;
     }
-    line += face_->advances[static_cast<unsigned char>(c)] * spacing;
+    line += Advance(c) * spacing;
   }
   size.width = std::max(size.width, line);
   size.height = face_->line_height * (1 + (lines - 1) * line_spacing);
   return size;
 }
 
-TextOutline FontMetrics::Outline(std::string_view latin1, double spacing) const {
+TextOutline FontMetrics::Outline(std::u32string_view text, double spacing) const {
   std::lock_guard lock(face_->glyph_mutex);
   Flattener flattener;
   flattener.scale = 1 / face_->units_per_em;
@@ -189,14 +208,16 @@ TextOutline FontMetrics::Outline(std::string_view latin1, double spacing) const 
   funcs.line_to = LineTo;
   funcs.conic_to = ConicTo;
   funcs.cubic_to = CubicTo;
-  for (char c : latin1) {
-    const auto code = static_cast<unsigned char>(c);
+  for (char32_t code : text) {
     const FT_UInt glyph = FT_Get_Char_Index(face_->face, code);
-    if (glyph != 0 && FT_Load_Glyph(face_->face, glyph, FT_LOAD_NO_SCALE) == 0 &&
-        face_->face->glyph->format == FT_GLYPH_FORMAT_OUTLINE) {
-      FT_Outline_Decompose(&face_->face->glyph->outline, &funcs, &flattener);
+    double advance = 0;
+    if (glyph != 0 && FT_Load_Glyph(face_->face, glyph, FT_LOAD_NO_SCALE) == 0) {
+      advance = face_->face->glyph->advance.x / face_->units_per_em;
+      if (face_->face->glyph->format == FT_GLYPH_FORMAT_OUTLINE) {
+        FT_Outline_Decompose(&face_->face->glyph->outline, &funcs, &flattener);
+      }
     }
-    flattener.x_offset += face_->advances[code] * spacing;
+    flattener.x_offset += advance * spacing;
   }
   TextOutline outline;
   for (std::vector<Point>& contour : flattener.contours) {

@@ -45,10 +45,11 @@ class FontMetrics {
   // Faces are loaded once and shared by every thread.
   static Result<const FontMetrics*> For(const FontChoice& choice);
 
-  // The text (ISO Latin-1, lines split at '\n') measured with `spacing`
-  // scaling each advance and `line_spacing` the distance between lines.
-  TextSize Measure(std::string_view latin1, double spacing, double line_spacing) const;
-  TextOutline Outline(std::string_view latin1, double spacing) const;
+  // The text (characters, lines split at '\n') measured with `spacing`
+  // scaling each advance and `line_spacing` the distance between lines. A
+  // character the face lacks takes no room.
+  TextSize Measure(std::u32string_view text, double spacing, double line_spacing) const;
+  TextOutline Outline(std::u32string_view text, double spacing) const;
 
   ~FontMetrics();
   FontMetrics(const FontMetrics&) = delete;
@@ -57,6 +58,9 @@ class FontMetrics {
  private:
   struct Face;
   explicit FontMetrics(std::unique_ptr<Face> face);
+  // The advance of one character in ems, for one beyond Latin-1 read from
+  // the face on first use.
+  double Advance(char32_t c) const;
 
   std::unique_ptr<Face> face_;
 };

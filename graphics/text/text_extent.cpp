@@ -37,7 +37,7 @@ Result<NetFont> FontOf(const AttributePath& path) {
 
 }  // namespace
 
-Result<TextExtent> ComputeTextExtent(const AttributePath& path, std::string_view latin1) {
+Result<TextExtent> ComputeTextExtent(const AttributePath& path, std::u32string_view text) {
   auto font = FontOf(path);
   if (!font.ok()) return font.error();
   auto metrics = FontMetrics::For(font.value().choice);
@@ -65,17 +65,23 @@ Result<TextExtent> ComputeTextExtent(const AttributePath& path, std::string_view
     const Camera* camera = path.NetLocal<Camera>();
     size_pixels = size.value / (camera ? camera->state() : Camera().state()).height * height_pixels;
   }
-  const TextSize ems = metrics.value()->Measure(latin1, font.value().spacing, font.value().line_spacing);
+  const TextSize ems = metrics.value()->Measure(text, font.value().spacing, font.value().line_spacing);
   return TextExtent{static_cast<float>(ems.width * size_pixels / width_pixels),
                     static_cast<float>(ems.height * size_pixels / height_pixels)};
 }
 
-Result<TextOutline> ComputeTextOutline(const AttributePath& path, std::string_view latin1) {
+Result<TextOutline> ComputeTextOutline(const AttributePath& path, std::u32string_view text) {
   auto font = FontOf(path);
   if (!font.ok()) return font.error();
   auto metrics = FontMetrics::For(font.value().choice);
   if (!metrics.ok()) return metrics.error();
-  return metrics.value()->Outline(latin1, font.value().spacing);
+  return metrics.value()->Outline(text, font.value().spacing);
+}
+
+std::u32string Latin1Characters(std::string_view text) {
+  std::u32string characters;
+  for (char c : text) characters += static_cast<unsigned char>(c);
+  return characters;
 }
 
 }  // namespace graphics

@@ -16,9 +16,12 @@ struct TextExtent {
   float y_fraction = 0;  // of its height
 };
 
-// `latin1` is the text in ISO Latin-1, lines split at '\n'.
-Result<TextExtent> ComputeTextExtent(const AttributePath& path, std::string_view latin1);
+// `text` is characters, lines split at '\n'.
+Result<TextExtent> ComputeTextExtent(const AttributePath& path, std::u32string_view text);
 // Outlines with the path's font and spacing, in ems (unit-height glyphs).
-Result<TextOutline> ComputeTextOutline(const AttributePath& path, std::string_view latin1);
+Result<TextOutline> ComputeTextOutline(const AttributePath& path, std::u32string_view text);
+
+// Plain 8-bit text, read as ISO Latin-1: one character per byte.
+std::u32string Latin1Characters(std::string_view text);
 
 }  // namespace graphics

@@ -1,5 +1,5 @@
-// The attribute, camera, matrix, colour, texture, text-measurement and
-// utility functions must all be real: any of them still answering "not
+// The attribute, camera, matrix, colour, texture, text-measurement,
+// coordinate, curve, shell and utility functions must all be real: any of them still answering "not
 // available" is listed.
 #include <gtest/gtest.h>
 
@@ -20,7 +20,9 @@ constexpr std::string_view kFamilies[] = {
     "Window",        "User_Option",    "User_Opt",       "Unicode",        "Uni_Opt",       "User_Ind",
     "User_Value",    "Modelling_Matrix", "Texture_Matrix", "_Object",      "Rotate_Texture", "Translate_Texture",
     "Scale_Texture", "Camera",         "Color",          "Texture",        "Line_Style",    "Highlight",
-    "Text_Extent",   "Text_Outline",   "Parse_String",   "Show_Time",      "Memory_Usage",  "Device_Info"};
+    "Text_Extent",   "Text_Outline",   "Parse_String",   "Show_Time",      "Memory_Usage",  "Device_Info",
+    "Normal",        "Geometry_Option", "Set_Parameter", "Compute_Coordinates", "Compute_Transform",
+    "Polyline_From_Curve", "Pline_From_Crv", "Optimized_Shell"};
 
 bool BelongsHere(std::string_view name) {
   if (!name.starts_with("HC_")) return false;

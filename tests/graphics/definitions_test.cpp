@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine_fixture.h"
+#include "system/highlights.h"
 
 namespace {
 
@@ -18,6 +19,17 @@ std::set<std::string> FoundTextures() {
   HC_End_Texture_Search();
   return names;
 }
+
+std::set<std::string> FoundLineStyles() {
+  std::set<std::string> names;
+  char name[256];
+  HC_Begin_Line_Style_Search();
+  while (HC_Find_Line_Style(name)) names.insert(name);
+  HC_End_Line_Style_Search();
+  return names;
+}
+
+void DoNothing() {}
 
 class Definitions : public EngineTest {
  protected:
@@ -104,6 +116,23 @@ TEST_F(Definitions, HighlightsNeedLiveKeysAndAStyle) {
   HC_Define_Highlight(1, &part, "/styles/cold", "");
   HC_Define_Highlight(0, &part, "/styles/hot", "");
   EXPECT_EQ(TakeReports().size(), 3u);
+}
+
+TEST_F(Definitions, ResetForgetsEveryProcessWideDefinition) {
+  HC_Define_Texture("wood", "source=grain");
+  HC_Define_Line_Style("rail", "parallel = (weight=2 pixels)");
+  HC_Define_Callback_Name("nothing", DoNothing);
+  HC_Create_Segment("/styles/hot");
+  const long long part = HC_Create_Segment("/scene/part");
+  HC_Define_Highlight(1, &part, "/styles/hot", "");
+  ASSERT_FALSE(graphics::Highlights().empty());
+  HC_Reset_System();
+  EXPECT_TRUE(FoundTextures().empty());
+  EXPECT_TRUE(FoundLineStyles().empty());
+  EXPECT_TRUE(graphics::Highlights().empty());
+  EXPECT_TRUE(TakeReports().empty());
+  HC_UnDefine_Callback_Name("nothing");  // no longer known
+  EXPECT_EQ(TakeReports().size(), 1u);
 }
 
 }  // namespace

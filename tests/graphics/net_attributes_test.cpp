@@ -200,4 +200,54 @@ TEST_F(NetAttributes, NetTextAlignmentFallsBackToCentred) {
   EXPECT_EQ(std::string(alignment), "<v");
 }
 
+TEST_F(NetAttributes, KeyPathsGoThroughConditionalIncludesOnlyWhenTheyHold) {
+  const long long bolt = HC_Create_Segment("/library/bolt");
+  HC_Open_Segment_By_Key(view_);
+  HC_Set_Visibility("faces=off");
+  const long long include = HC_Conditional_Include("/library/bolt", "exploded");
+  HC_Close_Segment();
+  EXPECT_FALSE(NetFacesVisibility({bolt, include}).set);
+  EXPECT_FALSE(NetFacesVisibility({bolt, view_}).set);
+  EXPECT_EQ(TakeReports().size(), 2u);
+  // Conditions above the includer count there.
+  HC_Open_Segment("/");
+  HC_Set_Conditions("exploded");
+  HC_Close_Segment();
+  EXPECT_EQ(NetFacesVisibility({bolt, include}).value, "off");
+  EXPECT_EQ(NetFacesVisibility({bolt, view_}).value, "off");
+  EXPECT_TRUE(TakeReports().empty());
+}
+
+TEST_F(NetAttributes, MatricesAlongAPathHonourLocksAndStyles) {
+  const auto net_x = [&] {
+    float m[16] = {};
+    HC_PShow_Net_Modelling_Matrix(1, &part_, m);
+    return m[12];
+  };
+  HC_Open_Segment_By_Key(view_);
+  HC_Translate_Object(1, 0, 0);
+  HC_Close_Segment();
+  HC_Open_Segment_By_Key(part_);
+  HC_Translate_Object(10, 0, 0);
+  HC_Close_Segment();
+  HC_Open_Segment("/styles/shifted");
+  HC_Translate_Object(100, 0, 0);
+  HC_Close_Segment();
+  HC_Open_Segment("/view/assembly");
+  HC_Style_Segment("/styles/shifted");
+  HC_Close_Segment();
+  EXPECT_EQ(net_x(), 111);
+  HC_Open_Segment("/view/assembly");
+  HC_Translate_Object(1000, 0, 0);  // its own matrix beats the style's
+  HC_Close_Segment();
+  EXPECT_EQ(net_x(), 1011);
+  HC_Open_Segment_By_Key(view_);
+  HC_Set_Rendering_Options("attribute lock=modelling matrix");
+  HC_Close_Segment();
+  EXPECT_EQ(net_x(), 1);
+  float texture[16] = {};
+  EXPECT_FALSE(HC_PShow_Net_Texture_Matrix(1, &part_, texture));
+  EXPECT_TRUE(TakeReports().empty());
+}
+
 }  // namespace

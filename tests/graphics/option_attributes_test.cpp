@@ -177,4 +177,28 @@ TEST_F(OptionAttributes, NullPointersAreReported) {
   for (const auto& report : reports) EXPECT_EQ(report.specific, 2402);
 }
 
+TEST_F(OptionAttributes, EdgesAndLightsTakeListsOfTheirParts) {
+  HC_Set_Visibility("edges=(hard=off, Silhouettes)");
+  HC_Set_Visibility("edges=(no generics), lights=(no markers)");
+  char shown[512] = "";
+  HC_Show_One_Visibility("edges", shown);
+  EXPECT_EQ(std::string(shown),
+            "perimeters,no hard,adjacent,mesh quads,silhouettes,interior silhouettes,nonculled,no generics");
+  HC_Show_One_Visibility("lights", shown);
+  EXPECT_EQ(std::string(shown), "faces,edges,no markers");
+  // Parts that come to agree fold back to a plain switch.
+  HC_Set_Visibility("edges=(hard, generics)");
+  HC_Show_One_Visibility("edges", shown);
+  EXPECT_EQ(std::string(shown), "on");
+  HC_Set_Visibility("edges=(everything)");
+  HC_Set_Visibility("faces=(hard=off)");
+  EXPECT_EQ(TakeReports().size(), 2u);
+  HC_Show_Visibility(shown);
+  HC_UnSet_Visibility();
+  HC_Set_Visibility(shown);
+  char again[512] = "";
+  HC_Show_Visibility(again);
+  EXPECT_EQ(std::string(again), shown);
+}
+
 }  // namespace

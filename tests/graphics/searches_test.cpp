@@ -180,4 +180,18 @@ TEST_F(Searches, ExistenceCountsWhatASearchWouldFind) {
   EXPECT_EQ(TakeReports().size(), 1u);
 }
 
+TEST_F(Searches, AttributeWordsTakeEitherNumberAndTheRootHoldsEveryDefault) {
+  HC_Open_Segment_By_Key(model_);
+  HC_Set_Conditions("day");
+  EXPECT_EQ(HC_Show_Existence("condition"), 1);
+  EXPECT_EQ(HC_Show_Existence("conditions"), 1);
+  EXPECT_EQ(HC_Show_Existence("color"), 0);
+  HC_Close_Segment();
+  // A walk up the owners for a set colour ends at the root at the latest.
+  EXPECT_EQ(HC_QShow_Existence("/", "color"), 1);
+  EXPECT_EQ(HC_QShow_Existence("/", "color, no color"), 0);
+  EXPECT_EQ(HC_QShow_Existence("/", "color = faces"), 0);
+  EXPECT_TRUE(TakeReports().empty());
+}
+
 }  // namespace

@@ -54,19 +54,28 @@ TEST_F(SegmentEdits, CopySegmentDuplicatesContentsIntoAnEmptyDestination) {
   HC_Create_Segment("child");
   HC_Style_Segment("/style library");
   HC_Close_Segment();
-  HC_Create_Segment("/full/thing");
+  const long long full = HC_Show_Owner_By_Key(HC_Create_Segment("/full/thing"), nullptr);
   const long long copy = HC_Copy_Segment("/source", "/copies/*");
   EXPECT_EQ(PathOf(copy), "/copies/source");
   EXPECT_EQ(HC_QShow_Existence("/copies/source", "everything"),
             HC_QShow_Existence("/source", "everything"));
   EXPECT_EQ(HC_QShow_Existence("/copies/source/child", "self"), 1);
   EXPECT_TRUE(TakeReports().empty());
-  EXPECT_EQ(HC_Copy_Segment("/source", "/full"), -1);  // not empty: nothing copied
+  EXPECT_EQ(HC_Copy_Segment("/source", "/full"), full);  // not empty: nothing copied
   EXPECT_EQ(HC_QShow_Existence("/full", "geometry"), 0);
   EXPECT_EQ(HC_Copy_Segment("/source", "/source/child/deeper"), -1);
   const auto reports = TakeReports();
   ASSERT_EQ(reports.size(), 2u);
   EXPECT_EQ(reports[0].category, graphics::kCategoryName);
+
+  // A destination named by a step, such as the open segment ".", is that
+  // segment itself; a rename cannot go there.
+  const long long open = HC_Open_Segment("/into open");
+  EXPECT_EQ(HC_Copy_Segment("/source", "."), open);
+  HC_Close_Segment();
+  EXPECT_EQ(HC_QShow_Existence("/into open", "geometry"), 1);
+  HC_Rename_Segment("/source", "/into open/..");
+  EXPECT_EQ(TakeReports().size(), 1u);
 }
 
 TEST_F(SegmentEdits, CopyAndMoveGeometryByKey) {
@@ -113,6 +122,47 @@ TEST_F(SegmentEdits, FlushKeepsOpenSubsegmentsAndSaysSo) {
   HC_Close_Segment();
   EXPECT_EQ(HC_QShow_Existence("/f/*", "self"), 1);
   EXPECT_EQ(TakeReports().size(), 1u);
+}
+
+TEST_F(SegmentEdits, FlushOfAttributeOptionsRemovesThoseOptionsOnly) {
+  HC_Open_Segment("/f");
+  HC_Set_Rendering_Options("attribute lock = (color, visibility), lighting");
+  HC_Set_Color("faces = red, edges = blue");
+  HC_Set_User_Options("a=1, b=2");
+  HC_Set_Heuristics("hidden surfaces");
+  HC_Close_Segment();
+  HC_Flush_Contents("/f", "rendering options = attribute lock, color = faces, user options = a, heuristics, "
+                          "no heuristics");
+  EXPECT_TRUE(TakeReports().empty());
+  EXPECT_EQ(HC_QShow_Existence("/f", "rendering options = attribute lock"), 0);
+  EXPECT_EQ(HC_QShow_Existence("/f", "rendering options = lighting"), 1);
+  EXPECT_EQ(HC_QShow_Existence("/f", "heuristics"), 1);
+  char text[256];
+  HC_Open_Segment("/f");
+  HC_Show_Color(text);
+  EXPECT_STREQ(text, "edges=blue");
+  HC_Show_User_Options(text);
+  EXPECT_STREQ(text, "b=2");
+  HC_Close_Segment();
+  HC_Flush_Contents("/f", "rendering options = lighting, color = edges = diffuse");
+  EXPECT_EQ(HC_QShow_Existence("/f", "rendering options, color"), 0);  // nothing left of either
+  EXPECT_TRUE(TakeReports().empty());
+}
+
+TEST_F(SegmentEdits, FlushWithAnUnknownOptionChangesNothing) {
+  HC_Open_Segment("/f");
+  HC_Insert_Marker(0, 0, 0);
+  HC_Set_Heuristics("hidden surfaces");
+  HC_Close_Segment();
+  const std::string before = TreeSnapshot();
+  for (const char* filter : {"geometry, heuristics = sparkle", "geometry, color = nowhere",
+                             "geometry, modelling matrix = anything"}) {
+    HC_Flush_Contents("/f", filter);
+    const auto reports = TakeReports();
+    ASSERT_EQ(reports.size(), 1u) << filter;
+    EXPECT_EQ(reports[0].specific, 2301) << filter;
+    EXPECT_EQ(TreeSnapshot(), before) << filter;
+  }
 }
 
 TEST_F(SegmentEdits, BringToFrontReordersSearchResults) {
@@ -163,9 +213,9 @@ using engine_test::TakeReports;
 using Renumbering = EngineTest;
 
 TEST_F(Renumbering, AProgramKeyReplacesTheLibraryKeyUntilRestored) {
-  const long long segment = HC_Create_Segment("/numbered");
   HC_Open_Segment("/numbered");
   const long long marker = HC_Insert_Marker(1, 2, 3);
+  const long long other = HC_Insert_Marker(4, 5, 6);
   HC_Close_Segment();
   EXPECT_EQ(HC_Renumber_Key(marker, 42, "G"), 42);
   char status[16];
@@ -176,20 +226,73 @@ TEST_F(Renumbering, AProgramKeyReplacesTheLibraryKeyUntilRestored) {
   float x = 0;
   HC_Show_Marker(42, &x, nullptr, nullptr);
   EXPECT_EQ(x, 1.0f);
-  EXPECT_EQ(HC_Renumber_Key(segment, 7, "local "), 7);
-  HC_Show_Key_Status(7, status);
-  EXPECT_STREQ(status, "local");
   EXPECT_EQ(HC_Renumber_Key(42, -1, "global"), marker);
   HC_Show_Key_Status(marker, status);
   EXPECT_STREQ(status, "valid");
+  EXPECT_EQ(HC_Renumber_Key(other, 7, "global "), 7);
   EXPECT_TRUE(TakeReports().empty());
   EXPECT_EQ(HC_Renumber_Key(marker, 7, "global"), marker);  // 7 is taken
   EXPECT_EQ(HC_Renumber_Key(marker, 8, "sideways"), marker);
   EXPECT_EQ(HC_Renumber_Key(marker, -5, "global"), marker);
-  EXPECT_EQ(TakeReports().size(), 3u);
+  EXPECT_EQ(HC_Renumber_Key(HC_Create_Segment("/"), 3, "local"), HC_Create_Segment("/"));  // the root has no owner
+  EXPECT_EQ(TakeReports().size(), 4u);
   HC_Delete_By_Key(7);
   HC_Show_Key_Status(7, status);
   EXPECT_STREQ(status, "invalid");
+}
+
+float MarkerX(long long key) {
+  float x = 0;
+  HC_Show_Marker(key, &x, nullptr, nullptr);
+  return x;
+}
+
+TEST_F(Renumbering, LocalKeysResolveAmongTheCurrentSegmentsItems) {
+  HC_Open_Segment("/a");
+  const long long in_a = HC_Insert_Marker(1, 0, 0);
+  EXPECT_EQ(HC_Renumber_Key(in_a, 5, "local"), 5);
+  const long long child = HC_Create_Segment("child");
+  EXPECT_EQ(HC_Renumber_Key(child, 9, "L"), 9);
+  HC_Close_Segment();
+  HC_Open_Segment("/b");
+  const long long in_b = HC_Insert_Marker(2, 0, 0);
+  EXPECT_EQ(HC_Renumber_Key(in_b, 5, "local"), 5);  // another segment's 5
+  EXPECT_EQ(MarkerX(5), 2.0f);
+  HC_Close_Segment();
+  const long long global = HC_Insert_Marker(3, 0, 0);
+  EXPECT_TRUE(TakeReports().empty());
+
+  char status[16];
+  HC_Show_Key_Status(5, status);  // nothing open: no local 5 in sight
+  EXPECT_STREQ(status, "invalid");
+  EXPECT_EQ(HC_Renumber_Key(global, 5, "global"), 5);
+  EXPECT_EQ(MarkerX(5), 3.0f);
+  HC_Open_Segment("/a");
+  EXPECT_EQ(MarkerX(5), 1.0f);  // the local key hides the global one
+  HC_Open_Segment_By_Key(9);
+  char path[64];
+  HC_Show_Pathname_Expansion(".", path);
+  EXPECT_STREQ(path, "/a/child");
+  HC_Close_Segment();
+  HC_Delete_By_Key(5);
+  HC_Show_Key_Status(5, status);
+  EXPECT_STREQ(status, "global");
+  HC_Close_Segment();
+  EXPECT_TRUE(TakeReports().empty());
+
+  HC_Open_Segment("/b");
+  HC_Renumber_Key(HC_Insert_Marker(0, 0, 0), 9, "local");
+  HC_Move_By_Key(5, "/a");
+  EXPECT_EQ(MarkerX(5), 3.0f);  // /b's 5 went to /a: the global one shows through
+  HC_Move_By_Key(9, "/a");      // /a has a 9 already
+  EXPECT_EQ(MarkerX(9), 0.0f);
+  HC_Close_Segment();
+  HC_Open_Segment("/a");
+  EXPECT_EQ(MarkerX(5), 2.0f);
+  HC_Close_Segment();
+  const auto reports = TakeReports();
+  ASSERT_EQ(reports.size(), 1u);
+  EXPECT_EQ(reports[0].specific, 2401);
 }
 
 }  // namespace

@@ -88,6 +88,31 @@ TEST_F(TextExtent, EveryFormAgreesOnTheSameText) {
   EXPECT_TRUE(TakeReports().empty());
 }
 
+TEST_F(TextExtent, EncodedTextIsMeasuredInItsOwnCharacters) {
+  // U+03A9 OMEGA, in each encoding; '?' stands where Latin-1 lacks it.
+  const char utf8[] = "\xce\xa9\xce\xa9";
+  const std::u16string utf16 = u"\u03a9\u03a9";
+  const std::u32string utf32 = U"\u03a9\u03a9";
+  Extent from_utf8, from_utf16, from_utf32, one, e_acute;
+  EXPECT_TRUE(HC_Compute_Text_Extent_With_Enc(".", "UTF8", utf8, &from_utf8.x, &from_utf8.y));
+  EXPECT_TRUE(HC_Compute_Text_Extent_With_Enc(".", "utf16", utf16.c_str(), &from_utf16.x, &from_utf16.y));
+  EXPECT_TRUE(HC_Compute_Text_Extent_Enc_Path(1, &segment_, "utf32", utf32.c_str(), &from_utf32.x, &from_utf32.y));
+  EXPECT_TRUE(HC_Compute_Text_Extent_With_Enc(".", "utf8", "\xce\xa9", &one.x, &one.y));
+  EXPECT_FLOAT_EQ(from_utf16.x, from_utf8.x);
+  EXPECT_FLOAT_EQ(from_utf32.x, from_utf8.x);
+  EXPECT_FLOAT_EQ(from_utf8.x, 2 * one.x);
+  EXPECT_NE(one.x, Measure("?").x);
+  // A Latin-1 character is the same whichever way it comes.
+  EXPECT_TRUE(HC_Compute_Text_Extent_With_Enc(".", "utf8", "\xc3\xa9", &e_acute.x, &e_acute.y));
+  EXPECT_FLOAT_EQ(e_acute.x, Measure("\xe9").x);
+  // A stored text item keeps its encoding too.
+  const long long text = HC_Insert_Text_With_Encoding(0, 0, 0, "utf8", utf8);
+  Extent by_key;
+  EXPECT_TRUE(HC_Compute_Text_Extent_By_Key(text, &by_key.x, &by_key.y));
+  EXPECT_FLOAT_EQ(by_key.x, from_utf8.x);
+  EXPECT_TRUE(TakeReports().empty());
+}
+
 TEST_F(TextExtent, FailuresAnswerFalseAndLeaveTheOutputs) {
   Extent e;
   EXPECT_FALSE(HC_Compute_Text_Extent("/no/such/segment", "x", &e.x, &e.y));

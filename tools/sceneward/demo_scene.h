@@ -1,18 +1,13 @@
 #pragma once
-// The built-in demo scene: a few segments with lines and texts, built
-// through the current thread's manager.
-#include <vector>
+// The built-in demo scene: a frame, two parts (a circle with a cross, a cube
+// moved to the right), and labels, with colours and a camera, built through
+// the library's segment and entity handles on the current thread's manager.
+#include "sceneward/scene/entities/zdb_en_segment.h"
 
 namespace tool {
 
-// What was built: each segment with its depth below the scene's top and the
-// keys of the geometry inserted into it, parents before children.
-struct BuiltSegment {
-  long long key;
-  int depth;
-  std::vector<long long> geometry;
-};
-
-std::vector<BuiltSegment> BuildDemoScene();
+// Builds the scene under "/demo" and returns that segment. Building twice
+// adds the geometry again.
+ZDbEnSegment BuildDemoScene();
 
 }  // namespace tool

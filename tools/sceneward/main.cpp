@@ -18,7 +18,7 @@ void PrintUsage(std::FILE* out) {
       "usage: sceneward <command>\n"
       "\n"
       "commands:\n"
-      "  demo    build the built-in demo scene and print its segment tree\n"
+      "  demo    build the built-in demo scene and print it as the database holds it\n"
       "  help    show this text\n",
       out);
 }
@@ -36,8 +36,7 @@ int RunDemo() {
   host.LoadAddIn();
   CurrentManager()->SetErrorHandler();
 
-  const std::vector<tool::BuiltSegment> scene = tool::BuildDemoScene();
-  tool::PrintSegmentTree(scene, stdout);
+  tool::PrintSegmentTree(tool::BuildDemoScene(), stdout);
 
   const std::vector<host::ReportedMessage> errors = entry.MessageSink().Messages();
   for (const host::ReportedMessage& error : errors) std::fprintf(stderr, "%s\n", error.text.GetAsMBCS());

@@ -1,0 +1,36 @@
+#pragma once
+// The kinds of attribute that a handle of the ZDbAt... family names. The
+// numbers are part of the exported interface; 21, 22 and 27 are gaps that
+// must stay free so that the others keep their values.
+enum ZDbEntAttributeType : int {
+  kAttributeColor = 0,
+  kAttributeRenderingOptions = 1,
+  kAttributeUserOptions = 2,
+  kAttributeTextFont = 3,
+  kAttributeUnicodeOptions = 4,
+  kAttributeVisibility = 5,
+  kAttributeSelectability = 6,
+  kAttributeHeuristics = 7,
+  kAttributeTransform = 8,
+  kAttributeTextureTransform = 9,
+  kAttributeCondition = 10,
+  kAttributeCamera = 11,
+  kAttributeDriverOptions = 12,
+  kAttributeTextAlignment = 13,
+  kAttributeEdgeWeight = 14,
+  kAttributeLineWeight = 15,
+  kAttributeLinePattern = 16,
+  kAttributeEdgePattern = 17,
+  kAttributeMarkerSymbol = 18,
+  kAttributeMarkerSize = 19,
+  kAttributeHandedness = 20,
+  kAttributeTextPath = 23,
+  kAttributeTextSpacing = 24,
+  kAttributeTextRegion = 25,
+  kAttributeClipRegion = 26,
+  kAttributeWindow = 28,
+  kAttributeWindowFrame = 29,
+  kAttributeWindowPattern = 30,
+  kAttributeUserIndex = 31,
+  kAttributePriority = 32,
+};
