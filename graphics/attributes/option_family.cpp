@@ -149,8 +149,15 @@ Result<std::string> NumberValue(std::string_view name, std::string_view text) {
   const auto number = ParseNumber(trimmed.substr(0, blank));
   if (!number) return WrongValue(name, text, "a number");
   std::string stored = FormatNumber(*number);
-  if (blank != std::string_view::npos) stored += ' ' + NormalizeWord(trimmed.substr(blank));
-  return stored;
+  if (blank == std::string_view::npos) return stored;
+  // A unit is made of words ("sru", "points", "%"); anything else after the
+  // number is no unit, and would not read back once shown.
+  const std::string unit = NormalizeWord(trimmed.substr(blank));
+  const bool words_only = std::all_of(unit.begin(), unit.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || c == '%' || c == ' ' || (static_cast<unsigned char>(c) & 0x80) != 0;
+  });
+  if (!words_only) return WrongValue(name, text, "a number with a unit");
+  return stored + ' ' + unit;
 }
 
 Result<std::string> SelectActionsValue(std::string_view name, std::string_view text) {
@@ -247,9 +254,11 @@ std::string FormatEntry(std::string_view name, std::string_view value) {
   if (value == "off") return "no " + shown_name;
   if (!IsSubListValue(value)) return shown_name + '=' + FormatOptionText(value);
   const std::string_view body = *SubListBody(value);
+  // A list of one bare word loses its parentheses; one holding "=" keeps
+  // them, or it would read back as a text with "=" in it.
   auto items = ParseOptionList(body);
-  const bool single = items.ok() && items.value().size() == 1;
-  return shown_name + '=' + std::string(single ? body : value);
+  const bool single_word = items.ok() && items.value().size() == 1 && !items.value().front().value;
+  return shown_name + '=' + std::string(single_word ? body : value);
 }
 
 // The canonical names of a name already normalised (quotes removed once:

@@ -59,18 +59,29 @@ TEST_F(OptionAttributes, ShownListsSetBackReproduceTheSegment) {
   HC_Set_Visibility("everything=off, faces, edges=on");
   HC_Set_Rendering_Options("attribute lock=(color,selectability), hsra = Z-Buffer");
   HC_Set_Text_Font("name=`x=y`, size=2 pixels");
+  HC_Set_Driver_Options("marker drawing=(fast=x,)");  // a one-item list holding "=" keeps its parentheses
   const std::string visibility = Shown(HC_Show_Visibility);
   const std::string rendering = Shown(HC_Show_Rendering_Options);
   const std::string font = Shown(HC_Show_Text_Font);
+  const std::string driver = Shown(HC_Show_Driver_Options);
   HC_Open_Segment("copy");
   HC_Set_Visibility(visibility.c_str());
   HC_Set_Rendering_Options(rendering.c_str());
   HC_Set_Text_Font(font.c_str());
+  HC_Set_Driver_Options(driver.c_str());
   EXPECT_EQ(Shown(HC_Show_Visibility), visibility);
   EXPECT_EQ(Shown(HC_Show_Rendering_Options), rendering);
   EXPECT_EQ(Shown(HC_Show_Text_Font), font);
+  EXPECT_EQ(Shown(HC_Show_Driver_Options), driver);
   HC_Close_Segment();
   EXPECT_TRUE(TakeReports().empty());
+}
+
+TEST_F(OptionAttributes, ANumberTakesAUnitWordAndNothingElse) {
+  HC_Set_Text_Font("size=0.5 sru");
+  HC_Set_Text_Font("size=403 s(((<)))o italic");
+  EXPECT_EQ(TakeReports().size(), 1u);
+  EXPECT_EQ(Shown(HC_Show_Text_Font), "size=0.5 sru");
 }
 
 TEST_F(OptionAttributes, GroupWordsSetEachMemberAndShowWhenAllAgree) {
